@@ -49,6 +49,8 @@ bool bitsKnown(const Stored& stored)
     return false;
 }
 
+constexpr std::uint32_t severalReaders = 0xFFFFFFFF;
+
 double widened(const std::byte* bytes, std::size_t size)
 {
     return size == 4 ? static_cast<double>(valueOf<float>(bytes)) : valueOf<double>(bytes);
@@ -93,7 +95,10 @@ bool matches(const Stored& stored, const std::byte* actual)
 } // namespace
 
 Memory::Memory(std::span<std::byte> region)
-    : region_(region), pages_(region.size() / pageSize, untouched), owner_(region.size(), 0)
+    : region_(region),
+      pages_(region.size() / pageSize, untouched),
+      owner_(region.size(), 0),
+      reader_(region.size(), 0)
 {
     if (start() % pageSize != 0 || region.size() % pageSize != 0)
         throw std::invalid_argument("the region is not made of pages");
@@ -137,6 +142,34 @@ void Memory::beforeLoad(Address address, std::size_t size, bool asNumber)
         if (!wholeNaN)
             throw Undecided{"a result that is not known to the bit is read again"};
     }
+    if (order_ != Order::promised)
+        checkOrderOfLoad(offset, size);
+}
+
+void Memory::checkOrderOfLoad(std::size_t offset, std::size_t size)
+{
+    const auto element = static_cast<std::uint32_t>(stores_.size() + 1);
+    for (std::size_t i = offset; i < offset + size; ++i) {
+        if (owner_[i] != 0)
+            throw Undecided{"a byte is read after it was stored, in no promised order"};
+        if (reader_[i] == 0) {
+            reader_[i] = element;
+            readBytes_.push_back(i);
+        } else if (reader_[i] != element) {
+            reader_[i] = severalReaders;
+        }
+    }
+}
+
+void Memory::checkOrderOfStore(std::size_t offset, std::size_t size) const
+{
+    const auto element = static_cast<std::uint32_t>(stores_.size() + 1);
+    for (std::size_t i = offset; i < offset + size; ++i) {
+        if (reader_[i] != 0 && reader_[i] != element)
+            throw Undecided{"a byte is stored after it was read for another element, in no promised order"};
+        if (order_ == Order::open && owner_[i] > objectStart_)
+            throw Undecided{"a byte is stored twice, in no promised order"};
+    }
 }
 
 void Memory::mayRead(Address address, std::size_t size)
@@ -149,6 +182,8 @@ void Memory::store(Address address, const void* from, std::size_t size, Rule rul
 {
     const std::size_t offset = offsetOf(address, size);
     touch(offset, size, written);
+    if (order_ != Order::promised)
+        checkOrderOfStore(offset, size);
     Stored stored{.address = address, .size = static_cast<std::uint32_t>(size), .rule = rule, .bound = bound};
     std::memcpy(stored.bytes.data(), from, size);
     std::memcpy(region_.data() + offset, from, size);
@@ -174,6 +209,11 @@ void Memory::reset()
     for (const Stored& stored : stores_)
         std::fill_n(owner_.begin() + static_cast<std::ptrdiff_t>(stored.address - start()), stored.size, 0u);
     stores_.clear();
+    for (const std::size_t offset : readBytes_)
+        reader_[offset] = 0;
+    readBytes_.clear();
+    order_ = Order::promised;
+    objectStart_ = 0;
     std::fill(pages_.begin(), pages_.end(), static_cast<std::uint8_t>(untouched));
 }
 

@@ -68,6 +68,21 @@ public:
     // size.
     explicit Memory(std::span<std::byte> region);
 
+    // How far the order of reading and writing inside a call is promised, which shows where operands overlap.
+    // Each store is taken to end one element, whose loads come since the store before it.
+    enum class Order : std::uint8_t
+    {
+        promised,  // as the behaviour does it
+        readsOpen, // an element may be read before or after the stores of the others
+        open       // and the elements of one object may be stored in any order, too
+    };
+
+    // States the order for the rest of the call. Where it is open and shows, the call is Undecided.
+    void setOrder(Order order) { order_ = order; }
+
+    // Objects are finished one after the other, also where the order inside an object is open.
+    void nextObject() { objectStart_ = static_cast<std::uint32_t>(stores_.size()); }
+
     // --- Reading ---
 
     // An element as a number.
@@ -91,7 +106,14 @@ public:
     }
 
     // An entry of a pointer table or list.
-    Address loadPointer(Address address) { return loadBits<std::uintptr_t>(address); }
+    Address loadPointer(Address address)
+    {
+        const std::size_t offset = offsetOf(address, sizeof(Address));
+        touch(offset, sizeof(Address), read);
+        Address entry;
+        std::memcpy(&entry, pointerTo(address), sizeof(entry));
+        return entry;
+    }
 
     // Bytes that the library is free to read although the model has no use for them.
     void mayRead(Address address, std::size_t size);
@@ -146,6 +168,8 @@ public:
 private:
     void store(Address address, const void* from, std::size_t size, Rule rule, double bound);
     void beforeLoad(Address address, std::size_t size, bool asNumber);
+    void checkOrderOfLoad(std::size_t offset, std::size_t size);
+    void checkOrderOfStore(std::size_t offset, std::size_t size) const;
     std::size_t offsetOf(Address address, std::size_t size) const;
     void touch(std::size_t offset, std::size_t size, PageUse use);
     bool intact(std::size_t index) const;
@@ -156,6 +180,11 @@ private:
     std::vector<std::uint8_t> pages_;
     std::vector<std::uint32_t> owner_; // for each byte, 1 + the last entry of stores_ that covers it, or 0
     std::vector<Stored> stores_;
+    Order order_ = Order::promised;
+    std::uint32_t objectStart_ = 0; // the number of stores before the current object
+    std::vector<std::uint32_t>
+        reader_; // for each byte, 1 + the element it was read for, or `severalReaders`, or 0
+    std::vector<std::size_t> readBytes_;
 };
 
 } // namespace model

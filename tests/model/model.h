@@ -56,6 +56,10 @@
 //     leaveOpen(a, bytes)         scratch or undefined: the library may do there what it likes
 //     mayRead(a, bytes)           the library may read there although the model does not
 //
+// Loads and stores count in the order in which they are made, which shows when operands overlap. A member
+// that makes no such promise says memory.setOrder(Memory::Order::readsOpen) or open; calls in which it shows
+// are then not compared.
+//
 // A behaviour that finds the outcome open (a value known only within a bound decides about a branch) throws
 // Undecided{"why"}; the driver then draws another call. Reading back a place stored with a bound or left open
 // does so by itself. An access outside the memory throws OutOfMemory, and the call is drawn anew as well. A
