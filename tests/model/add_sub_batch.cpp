@@ -170,9 +170,8 @@ private:
 
     T combined(T first, T second) const
     {
-        const T sum = first + second;
-        const T difference = first - second;
-        return name_.root == Root::Add ? sum : difference;
+        const T result = name_.root == Root::Add ? first + second : first - second;
+        return result;
     }
 
     // Loads object k and computes it.

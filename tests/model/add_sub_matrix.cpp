@@ -76,9 +76,8 @@ struct MatrixSum
     {
         const bool adds = call.name().root == Root::Add;
         const auto formula = [=](std::array<T, 2> x) {
-            const T sum = x[0] + x[1];
-            const T difference = x[0] - x[1];
-            return adds ? sum : difference;
+            const T result = adds ? x[0] + x[1] : x[0] - x[1];
+            return result;
         };
         const MatrixPair pair(call);
         const auto place = [&](std::size_t s, std::uint32_t k, std::uint32_t i, std::uint32_t j) {

@@ -22,9 +22,8 @@ Order orderOf(const Name& name)
 template <typename T>
 T combined(Root root, T first, T second)
 {
-    const T sum = first + second;
-    const T difference = first - second;
-    return root == Root::Add ? sum : difference;
+    const T result = root == Root::Add ? first + second : first - second;
+    return result;
 }
 
 template <typename T>
