@@ -26,6 +26,7 @@ public:
     {
         taste_.aligned = random_.chance(40);
         taste_.nullEntry = random_.chance(10);
+        taste_.loosePercent = manners_.loosePercent;
         plain_ = random_.chance(manners_.plainPercent);
     }
 

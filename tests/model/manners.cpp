@@ -8,6 +8,12 @@ Manners mannersOf(const Name& name)
     switch (name.root) {
     case Root::LoadIdentity:
         manners.signedSizes = true;
+        manners.loosePercent = 60; // short strides are what this family looks at
+        manners.moreRounds = 8;
+        break;
+    case Root::Copy:
+    case Root::Extract:
+        manners.moreRounds = 4;
         break;
     case Root::Det:
     case Root::LUDecomp:

@@ -61,7 +61,7 @@ Displacement Placing::drawStep(Displacement extent, bool loose)
 
 void Placing::drawSteps(Place& place)
 {
-    const bool loose = random_.chance(place.form.base == "dst" ? 15 : 40);
+    const bool loose = random_.chance(place.form.base == "dst" ? taste_.loosePercent : 40);
     const bool strided = isStrided(place.form.layout) && !isTable(place.form.layout);
     place.step2 = size();
     if (isTable(place.form.layout)) {
