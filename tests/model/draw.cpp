@@ -46,13 +46,15 @@ public:
     }
 
 private:
-    std::uint32_t drawSize(bool length)
+    std::uint32_t drawSize(bool length, bool large)
     {
         if (length && random_.chance(40))
             return 8 + random_.below(33);
-        const std::uint32_t largest =
+        if (large)
+            return 8 + random_.below(13);
+        const std::uint32_t most =
             random_.chance(80) ? std::min(7u, manners_.largestSize) : manners_.largestSize;
-        return manners_.smallestSize + random_.below(largest - manners_.smallestSize + 1);
+        return manners_.smallestSize + random_.below(most - manners_.smallestSize + 1);
     }
 
     void drawSizes()
@@ -60,7 +62,8 @@ private:
         const std::vector<std::string> sizes = sizeNames(name_);
         // Sizes that have to agree are drawn from two values.
         const bool lengthOnly = sizes.size() == 1 && sizes[0] == "length";
-        const std::array values = {drawSize(lengthOnly), drawSize(lengthOnly)};
+        const bool large = manners_.largeSizes && name_.general() && random_.chance(4);
+        const std::array values = {drawSize(lengthOnly, large), drawSize(lengthOnly, large)};
         for (const std::string& size : sizes)
             arguments_[size] = values[random_.below(2)];
         if (manners_.tall && arguments_["width"] > arguments_["height"] && random_.chance(85))
@@ -73,6 +76,8 @@ private:
                  : random_.chance(15) ? 1
                  : random_.chance(70) ? 2 + random_.below(4)
                                       : 6 + random_.below(4);
+        if (large)
+            count_ = std::min(count_, 2u);
         arguments_["count"] = count_;
     }
 

@@ -19,17 +19,20 @@ Manners mannersOf(const Name& name)
     case Root::LUDecomp:
     case Root::LUBackSubst:
         manners.largestSize = 8;
+        manners.largeSizes = false;
         manners.plainPercent = 60;
         break;
     case Root::Invert:
         // Order 1 of the general members has no defined result.
         manners.smallestSize = 2;
         manners.largestSize = 6;
+        manners.largeSizes = false;
         manners.plainPercent = 60;
         break;
     case Root::QRDecomp:
     case Root::QRBackSubst:
         manners.largestSize = 8;
+        manners.largeSizes = false;
         manners.tall = true;
         manners.plainPercent = 60;
         break;

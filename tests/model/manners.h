@@ -12,6 +12,7 @@ struct Manners
 {
     std::uint32_t smallestSize = 1; // of an order, width, height or length; zero is drawn apart from that
     std::uint32_t largestSize = 10;
+    bool largeSizes = true;          // now and then larger ones, up to 20
     bool tall = false;               // mostly at least as many rows as columns
     bool signedSizes = false;        // a size with the top bit set is an empty loop
     std::uint32_t plainPercent = 30; // of the calls take numbers with which most computations go through
