@@ -41,7 +41,10 @@ public:
         Draw draw{.call = call(), .arena = &arena_, .entry = drawEntry(), .protect = random_.chance(40)};
         // A call with a size or pointer of zero has nothing to fill.
         fillOperands();
-        arena_.snapshot();
+        for (std::size_t room = 0; room < Arena::roomCount; ++room) {
+            if (room < 2 * forms(name_).size() || room == scratchRoom)
+                arena_.snapshotRoom(room);
+        }
         return draw;
     }
 

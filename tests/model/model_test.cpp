@@ -31,7 +31,7 @@ std::uint64_t setting(const char* name, std::uint64_t otherwise)
     return text ? std::strtoull(text, nullptr, 0) : otherwise;
 }
 
-constexpr std::uint64_t usualRounds = 48;
+constexpr std::uint64_t usualRounds = 96;
 constexpr std::uint64_t allCalls = ~std::uint64_t{0};
 
 // The members that share root and operand codes, which are tested together.
