@@ -47,9 +47,14 @@ Arena::~Arena()
     munmap(bytes_.data() - Memory::pageSize, totalSize + 2 * Memory::pageSize);
 }
 
+void Arena::snapshotRoom(std::size_t index)
+{
+    std::memcpy(before_.data() + (room(index) - start()), at(room(index)), roomSize);
+}
+
 void Arena::snapshot()
 {
-    std::copy(bytes_.begin(), bytes_.end(), before_.begin());
+    std::memcpy(before_.data(), bytes_.data(), bytes_.size());
 }
 
 void Arena::restore()
@@ -60,7 +65,10 @@ void Arena::restore()
 
 std::string Arena::compare()
 {
-    return memory_->compare(before_);
+    std::string difference = memory_->compare(before_);
+    if (!difference.empty())
+        snapshot();
+    return difference;
 }
 
 void Arena::protect()

@@ -32,7 +32,9 @@ public:
     Memory& memory() { return *memory_; }
     std::byte* at(Address address) { return bytes_.data() + (address - start()); }
 
-    // Takes note of the contents, which the operands of a call have just been written into.
+    // Takes note of the contents of a room, which something has just been written into, or of the whole
+    // arena.
+    void snapshotRoom(std::size_t index);
     void snapshot();
     // Undoes all stores of the model.
     void restore();

@@ -26,6 +26,7 @@ public:
     {
         taste_.aligned = random_.chance(40);
         taste_.nullEntry = random_.chance(10);
+        taste_.loosePercent = manners_.loosePercent;
         plain_ = random_.chance(manners_.plainPercent);
     }
 
@@ -40,18 +41,23 @@ public:
         Draw draw{.call = call(), .arena = &arena_, .entry = drawEntry(), .protect = random_.chance(40)};
         // A call with a size or pointer of zero has nothing to fill.
         fillOperands();
-        arena_.snapshot();
+        for (std::size_t room = 0; room < Arena::roomCount; ++room) {
+            if (room < 2 * forms(name_).size() || room == scratchRoom)
+                arena_.snapshotRoom(room);
+        }
         return draw;
     }
 
 private:
-    std::uint32_t drawSize(bool length)
+    std::uint32_t drawSize(bool length, bool large)
     {
         if (length && random_.chance(40))
             return 8 + random_.below(33);
-        const std::uint32_t largest =
+        if (large)
+            return 8 + random_.below(13);
+        const std::uint32_t most =
             random_.chance(80) ? std::min(7u, manners_.largestSize) : manners_.largestSize;
-        return manners_.smallestSize + random_.below(largest - manners_.smallestSize + 1);
+        return manners_.smallestSize + random_.below(most - manners_.smallestSize + 1);
     }
 
     void drawSizes()
@@ -59,7 +65,8 @@ private:
         const std::vector<std::string> sizes = sizeNames(name_);
         // Sizes that have to agree are drawn from two values.
         const bool lengthOnly = sizes.size() == 1 && sizes[0] == "length";
-        const std::array values = {drawSize(lengthOnly), drawSize(lengthOnly)};
+        const bool large = manners_.largeSizes && name_.general() && random_.chance(4);
+        const std::array values = {drawSize(lengthOnly, large), drawSize(lengthOnly, large)};
         for (const std::string& size : sizes)
             arguments_[size] = values[random_.below(2)];
         if (manners_.tall && arguments_["width"] > arguments_["height"] && random_.chance(85))
@@ -72,6 +79,8 @@ private:
                  : random_.chance(15) ? 1
                  : random_.chance(70) ? 2 + random_.below(4)
                                       : 6 + random_.below(4);
+        if (large)
+            count_ = std::min(count_, 2u);
         arguments_["count"] = count_;
     }
 

@@ -2,6 +2,7 @@
 // of calls of each function, TENK_MODEL_SEED draws others, and TENK_MODEL_CALL makes one call alone, by its
 // number.
 #include "compare.h"
+#include "manners.h"
 #include "model.h"
 
 #include "../support/library.h"
@@ -12,6 +13,16 @@
 #include <string>
 #include <vector>
 
+namespace model {
+
+// So that a failure names the root.
+static void PrintTo(Root root, std::ostream* out)
+{
+    *out << rootText(root);
+}
+
+} // namespace model
+
 namespace {
 
 std::uint64_t setting(const char* name, std::uint64_t otherwise)
@@ -20,7 +31,7 @@ std::uint64_t setting(const char* name, std::uint64_t otherwise)
     return text ? std::strtoull(text, nullptr, 0) : otherwise;
 }
 
-constexpr std::uint64_t usualRounds = 48;
+constexpr std::uint64_t usualRounds = 96;
 constexpr std::uint64_t allCalls = ~std::uint64_t{0};
 
 // The members that share root and operand codes, which are tested together.
@@ -65,7 +76,8 @@ std::string firstDifference(const model::Name& name)
     void* function = support::exportedAddress(name.text);
     if (!function)
         return name.text + " cannot be found in the library";
-    const std::uint64_t rounds = setting("TENK_MODEL_ROUNDS", usualRounds);
+    const std::uint64_t rounds =
+        setting("TENK_MODEL_ROUNDS", usualRounds) * model::mannersOf(name).moreRounds;
     const std::uint64_t only = setting("TENK_MODEL_CALL", allCalls);
     const std::uint64_t seed = model::seedOf(name.text) + (setting("TENK_MODEL_SEED", 0) << 32);
     std::uint64_t made = 0;

@@ -61,7 +61,7 @@ Displacement Placing::drawStep(Displacement extent, bool loose)
 
 void Placing::drawSteps(Place& place)
 {
-    const bool loose = random_.chance(place.form.base == "dst" ? 15 : 40);
+    const bool loose = random_.chance(place.form.base == "dst" ? taste_.loosePercent : 40);
     const bool strided = isStrided(place.form.layout) && !isTable(place.form.layout);
     place.step2 = size();
     if (isTable(place.form.layout)) {
@@ -198,11 +198,14 @@ void Placing::overlap(Place& place, const Place& other, std::size_t count)
 
 Displacement Placing::drawShift(const Place& place)
 {
-    // Where a null entry with the shift is an address, the members that do not look at entries can be called.
+    // Low down, a shift may be nearly the whole address, the entries being what little is left of it. One of
+    // them is then null without being nowhere, which calls the members that do not look at entries.
     const bool low = arena_.start() + Arena::roomSize * (Arena::roomCount + 2) <= 0x80000000u;
-    if (low && random_.chance(taste_.nullEntry ? 60 : 8))
-        return static_cast<Displacement>(
-            place.pieces[random_.below(static_cast<std::uint32_t>(place.pieces.size()))]);
+    if (low && random_.chance(taste_.nullEntry ? 60 : 8)) {
+        const auto piece = static_cast<std::uint32_t>(place.pieces.size());
+        const auto shift = static_cast<Displacement>(place.pieces[random_.below(piece)]);
+        return taste_.nullEntry ? shift : shift - 0x10000;
+    }
     switch (random_.below(8)) {
     case 0:
     case 1:

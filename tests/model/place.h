@@ -16,8 +16,9 @@ namespace model {
 // What is common to the operands of one call.
 struct Taste
 {
-    bool aligned = false;   // addresses and strides are multiples of 16
-    bool nullEntry = false; // a table or list of the call has a null entry
+    bool aligned = false;            // addresses and strides are multiples of 16
+    bool nullEntry = false;          // a table or list of the call has a null entry
+    std::uint32_t loosePercent = 15; // of the destinations have strides that may let their elements overlap
 };
 
 // The arguments of the call so far.
