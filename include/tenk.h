@@ -4,9 +4,12 @@
 
 #include "tenk/types.h"
 /* Made by tools/generate; edit above this line or below the next. */
+#include "tenk/add.h"
 #include "tenk/copy.h"
 #include "tenk/extract.h"
 #include "tenk/load_identity.h"
+#include "tenk/mul.h"
+#include "tenk/sub.h"
 #include "tenk/transpose.h"
 /* End of what tools/generate makes. */
 
