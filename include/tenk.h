@@ -5,8 +5,13 @@
 #include "tenk/types.h"
 /* Made by tools/generate; edit above this line or below the next. */
 #include "tenk/copy.h"
+#include "tenk/cross_product.h"
+#include "tenk/dot_product.h"
 #include "tenk/extract.h"
+#include "tenk/frob_norm.h"
+#include "tenk/l2_norm.h"
 #include "tenk/load_identity.h"
+#include "tenk/trace.h"
 #include "tenk/transpose.h"
 /* End of what tools/generate makes. */
 
