@@ -10,7 +10,9 @@
 #include "tenk/extract.h"
 #include "tenk/frob_norm.h"
 #include "tenk/l2_norm.h"
+#include "tenk/lcomb.h"
 #include "tenk/load_identity.h"
+#include "tenk/saxpy.h"
 #include "tenk/trace.h"
 #include "tenk/transpose.h"
 /* End of what tools/generate makes. */
