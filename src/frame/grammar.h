@@ -455,6 +455,8 @@ consteval Member::Member(const char (&name)[N])
             thisNameIsNotInTheGrammar();
     }
     if (root == Root::Copy || root == Root::LoadIdentity) {
+        if (rest.size() != (root == Root::Copy ? 2 : 1))
+            thisNameIsNotInTheGrammar();
         layout = layoutOf(rest[0]);
         dstLayout = layoutOf(rest.back());
     } else {
