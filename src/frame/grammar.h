@@ -260,8 +260,7 @@ struct Member
 
     // From an exported name. The name must exist.
     template <std::size_t N>
-    consteval Member(
-        const char (&name)[N]); // NOLINT(google-explicit-constructor): members are spelled by name
+    consteval Member(const char (&name)[N]);
 
     bool operator==(const Member&) const = default;
 

@@ -19,10 +19,7 @@ namespace tenk {
 template <std::size_t i>
 struct Index
 {
-    constexpr operator std::size_t() const
-    {
-        return i;
-    } // NOLINT(google-explicit-constructor): it is a number
+    constexpr operator std::size_t() const { return i; }
 };
 template <std::size_t i>
 inline constexpr Index<i> index{};

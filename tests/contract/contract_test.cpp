@@ -28,17 +28,6 @@ std::string readText(const std::filesystem::path& path)
     return {std::istreambuf_iterator<char>(in), {}};
 }
 
-// What a command prints.
-std::string output(const std::string& command)
-{
-    std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(command.c_str(), "r"), pclose);
-    std::string text;
-    std::array<char, 4096> part;
-    while (const std::size_t n = std::fread(part.data(), 1, part.size(), pipe.get()))
-        text.append(part.data(), n);
-    return text;
-}
-
 class LibraryFile
 {
 public:
@@ -106,6 +95,17 @@ private:
 };
 
 #ifndef TENK_SANITIZED // a library with sanitizers needs their run-time
+
+// What a command prints.
+std::string output(const std::string& command)
+{
+    std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(command.c_str(), "r"), pclose);
+    std::string text;
+    std::array<char, 4096> part;
+    while (const std::size_t n = std::fread(part.data(), 1, part.size(), pipe.get()))
+        text.append(part.data(), n);
+    return text;
+}
 
 TEST(Library, NeedsNothingAndHasNoInitialiserAndNoTextRelocation)
 {
