@@ -6,7 +6,9 @@
 /* Made by tools/generate; edit above this line or below the next. */
 #include "tenk/copy.h"
 #include "tenk/extract.h"
+#include "tenk/gaxpy.h"
 #include "tenk/load_identity.h"
+#include "tenk/mul.h"
 #include "tenk/transpose.h"
 /* End of what tools/generate makes. */
 
