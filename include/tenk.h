@@ -17,6 +17,9 @@
 #include "tenk/sub.h"
 #include "tenk/saxpy.h"
 #include "tenk/trace.h"
+#include "tenk/gaxpy.h"
+#include "tenk/load_identity.h"
+#include "tenk/mul.h"
 #include "tenk/transpose.h"
 /* End of what tools/generate makes. */
 
