@@ -5,7 +5,9 @@
 #include "tenk/types.h"
 /* Made by tools/generate; edit above this line or below the next. */
 #include "tenk/copy.h"
+#include "tenk/det.h"
 #include "tenk/extract.h"
+#include "tenk/invert.h"
 #include "tenk/load_identity.h"
 #include "tenk/transpose.h"
 /* End of what tools/generate makes. */

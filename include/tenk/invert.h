@@ -11,8 +11,7 @@
  * no error. The source is read until the last element is written: `dst` must not overlap it.
  *
  * Orders 3 to 6 in the name have formulas of their own, without a buffer: the adjugate for 3 and 4, blocks or
- * elimination of one or two elements above (block inverses: Golub and Van Loan, Matrix Computations, 3.2; the order-4
- * block in lanes: Intel application note AP-928). "Band" is -1e-7 < v < 1e-7 in 32f and -1e-15 < v < 1e-15 in 64f:
+ * elimination of one or two elements above (block inverses: Golub and Van Loan, Matrix Computations, 3.2). "Band" is -1e-7 < v < 1e-7 in 32f and -1e-15 < v < 1e-15 in 64f:
  *
  *   order   _S2, _P, _PS2, _LS2                   Standard and _L, 32f             Standard and _L, 64f
  *   3       determinant in the band               determinant is 0                 reciprocal of the determinant is 0
@@ -51,6 +50,215 @@ extern "C" {
 #endif
 
 /* Made by tools/generate; edit above this line or below the next. */
+/* clang-format off */
+
+/* m */
+TENK_API tenkStatus tenkInvert_m_32f(const float* src, uint32_t srcStride1, uint32_t order, void* buffer,
+    float* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkInvert_m_32f_S2(const float* src, uint32_t srcStride1, uint32_t srcStride2,
+    uint32_t order, void* buffer, float* dst, uint32_t dstStride1, uint32_t dstStride2);
+TENK_API tenkStatus tenkInvert_m_32f_P(const float* const* src, uint32_t srcShift, uint32_t order,
+    void* buffer, float* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkInvert_m_64f(const double* src, uint32_t srcStride1, uint32_t order, void* buffer,
+    double* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkInvert_m_64f_S2(const double* src, uint32_t srcStride1, uint32_t srcStride2,
+    uint32_t order, void* buffer, double* dst, uint32_t dstStride1, uint32_t dstStride2);
+TENK_API tenkStatus tenkInvert_m_64f_P(const double* const* src, uint32_t srcShift, uint32_t order,
+    void* buffer, double* const* dst, uint32_t dstShift);
+
+/* ma */
+TENK_API tenkStatus tenkInvert_ma_32f(const float* src, uint32_t srcStride0, uint32_t srcStride1,
+    uint32_t order, void* buffer, float* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_32f_S2(const float* src, uint32_t srcStride0, uint32_t srcStride1,
+    uint32_t srcStride2, uint32_t order, void* buffer, float* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_32f_P(const float* const* src, uint32_t srcShift, uint32_t order,
+    void* buffer, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_32f_PS2(const float* const* src, uint32_t srcShift, uint32_t srcStride0,
+    uint32_t order, void* buffer, float* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_32f_L(const float* const* src, uint32_t srcShift, uint32_t srcStride1,
+    uint32_t order, void* buffer, float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_32f_LS2(const float* const* src, uint32_t srcShift, uint32_t srcStride1,
+    uint32_t srcStride2, uint32_t order, void* buffer, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_64f(const double* src, uint32_t srcStride0, uint32_t srcStride1,
+    uint32_t order, void* buffer, double* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_64f_S2(const double* src, uint32_t srcStride0, uint32_t srcStride1,
+    uint32_t srcStride2, uint32_t order, void* buffer, double* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_64f_P(const double* const* src, uint32_t srcShift, uint32_t order,
+    void* buffer, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_64f_PS2(const double* const* src, uint32_t srcShift, uint32_t srcStride0,
+    uint32_t order, void* buffer, double* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_64f_L(const double* const* src, uint32_t srcShift, uint32_t srcStride1,
+    uint32_t order, void* buffer, double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_64f_LS2(const double* const* src, uint32_t srcShift, uint32_t srcStride1,
+    uint32_t srcStride2, uint32_t order, void* buffer, double* const* dst, uint32_t dstShift,
+    uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+
+/* m */
+TENK_API tenkStatus tenkInvert_m_32f_3x3(const float* src, uint32_t srcStride1, float* dst,
+    uint32_t dstStride1);
+TENK_API tenkStatus tenkInvert_m_32f_3x3_S2(const float* src, uint32_t srcStride1, uint32_t srcStride2,
+    float* dst, uint32_t dstStride1, uint32_t dstStride2);
+TENK_API tenkStatus tenkInvert_m_32f_3x3_P(const float* const* src, uint32_t srcShift, float* const* dst,
+    uint32_t dstShift);
+TENK_API tenkStatus tenkInvert_m_32f_4x4(const float* src, uint32_t srcStride1, float* dst,
+    uint32_t dstStride1);
+TENK_API tenkStatus tenkInvert_m_32f_4x4_S2(const float* src, uint32_t srcStride1, uint32_t srcStride2,
+    float* dst, uint32_t dstStride1, uint32_t dstStride2);
+TENK_API tenkStatus tenkInvert_m_32f_4x4_P(const float* const* src, uint32_t srcShift, float* const* dst,
+    uint32_t dstShift);
+TENK_API tenkStatus tenkInvert_m_32f_5x5(const float* src, uint32_t srcStride1, float* dst,
+    uint32_t dstStride1);
+TENK_API tenkStatus tenkInvert_m_32f_5x5_S2(const float* src, uint32_t srcStride1, uint32_t srcStride2,
+    float* dst, uint32_t dstStride1, uint32_t dstStride2);
+TENK_API tenkStatus tenkInvert_m_32f_5x5_P(const float* const* src, uint32_t srcShift, float* const* dst,
+    uint32_t dstShift);
+TENK_API tenkStatus tenkInvert_m_32f_6x6(const float* src, uint32_t srcStride1, float* dst,
+    uint32_t dstStride1);
+TENK_API tenkStatus tenkInvert_m_32f_6x6_S2(const float* src, uint32_t srcStride1, uint32_t srcStride2,
+    float* dst, uint32_t dstStride1, uint32_t dstStride2);
+TENK_API tenkStatus tenkInvert_m_32f_6x6_P(const float* const* src, uint32_t srcShift, float* const* dst,
+    uint32_t dstShift);
+TENK_API tenkStatus tenkInvert_m_64f_3x3(const double* src, uint32_t srcStride1, double* dst,
+    uint32_t dstStride1);
+TENK_API tenkStatus tenkInvert_m_64f_3x3_S2(const double* src, uint32_t srcStride1, uint32_t srcStride2,
+    double* dst, uint32_t dstStride1, uint32_t dstStride2);
+TENK_API tenkStatus tenkInvert_m_64f_3x3_P(const double* const* src, uint32_t srcShift, double* const* dst,
+    uint32_t dstShift);
+TENK_API tenkStatus tenkInvert_m_64f_4x4(const double* src, uint32_t srcStride1, double* dst,
+    uint32_t dstStride1);
+TENK_API tenkStatus tenkInvert_m_64f_4x4_S2(const double* src, uint32_t srcStride1, uint32_t srcStride2,
+    double* dst, uint32_t dstStride1, uint32_t dstStride2);
+TENK_API tenkStatus tenkInvert_m_64f_4x4_P(const double* const* src, uint32_t srcShift, double* const* dst,
+    uint32_t dstShift);
+TENK_API tenkStatus tenkInvert_m_64f_5x5(const double* src, uint32_t srcStride1, double* dst,
+    uint32_t dstStride1);
+TENK_API tenkStatus tenkInvert_m_64f_5x5_S2(const double* src, uint32_t srcStride1, uint32_t srcStride2,
+    double* dst, uint32_t dstStride1, uint32_t dstStride2);
+TENK_API tenkStatus tenkInvert_m_64f_5x5_P(const double* const* src, uint32_t srcShift, double* const* dst,
+    uint32_t dstShift);
+TENK_API tenkStatus tenkInvert_m_64f_6x6(const double* src, uint32_t srcStride1, double* dst,
+    uint32_t dstStride1);
+TENK_API tenkStatus tenkInvert_m_64f_6x6_S2(const double* src, uint32_t srcStride1, uint32_t srcStride2,
+    double* dst, uint32_t dstStride1, uint32_t dstStride2);
+TENK_API tenkStatus tenkInvert_m_64f_6x6_P(const double* const* src, uint32_t srcShift, double* const* dst,
+    uint32_t dstShift);
+
+/* ma */
+TENK_API tenkStatus tenkInvert_ma_32f_3x3(const float* src, uint32_t srcStride0, uint32_t srcStride1,
+    float* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_32f_3x3_S2(const float* src, uint32_t srcStride0, uint32_t srcStride1,
+    uint32_t srcStride2, float* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_32f_3x3_P(const float* const* src, uint32_t srcShift, float* const* dst,
+    uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_32f_3x3_PS2(const float* const* src, uint32_t srcShift, uint32_t srcStride0,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_32f_3x3_L(const float* const* src, uint32_t srcShift, uint32_t srcStride1,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_32f_3x3_LS2(const float* const* src, uint32_t srcShift, uint32_t srcStride1,
+    uint32_t srcStride2, float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_32f_4x4(const float* src, uint32_t srcStride0, uint32_t srcStride1,
+    float* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_32f_4x4_S2(const float* src, uint32_t srcStride0, uint32_t srcStride1,
+    uint32_t srcStride2, float* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_32f_4x4_P(const float* const* src, uint32_t srcShift, float* const* dst,
+    uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_32f_4x4_PS2(const float* const* src, uint32_t srcShift, uint32_t srcStride0,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_32f_4x4_L(const float* const* src, uint32_t srcShift, uint32_t srcStride1,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_32f_4x4_LS2(const float* const* src, uint32_t srcShift, uint32_t srcStride1,
+    uint32_t srcStride2, float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_32f_5x5(const float* src, uint32_t srcStride0, uint32_t srcStride1,
+    float* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_32f_5x5_S2(const float* src, uint32_t srcStride0, uint32_t srcStride1,
+    uint32_t srcStride2, float* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_32f_5x5_P(const float* const* src, uint32_t srcShift, float* const* dst,
+    uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_32f_5x5_PS2(const float* const* src, uint32_t srcShift, uint32_t srcStride0,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_32f_5x5_L(const float* const* src, uint32_t srcShift, uint32_t srcStride1,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_32f_5x5_LS2(const float* const* src, uint32_t srcShift, uint32_t srcStride1,
+    uint32_t srcStride2, float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_32f_6x6(const float* src, uint32_t srcStride0, uint32_t srcStride1,
+    float* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_32f_6x6_S2(const float* src, uint32_t srcStride0, uint32_t srcStride1,
+    uint32_t srcStride2, float* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_32f_6x6_P(const float* const* src, uint32_t srcShift, float* const* dst,
+    uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_32f_6x6_PS2(const float* const* src, uint32_t srcShift, uint32_t srcStride0,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_32f_6x6_L(const float* const* src, uint32_t srcShift, uint32_t srcStride1,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_32f_6x6_LS2(const float* const* src, uint32_t srcShift, uint32_t srcStride1,
+    uint32_t srcStride2, float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_64f_3x3(const double* src, uint32_t srcStride0, uint32_t srcStride1,
+    double* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_64f_3x3_S2(const double* src, uint32_t srcStride0, uint32_t srcStride1,
+    uint32_t srcStride2, double* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_64f_3x3_P(const double* const* src, uint32_t srcShift, double* const* dst,
+    uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_64f_3x3_PS2(const double* const* src, uint32_t srcShift,
+    uint32_t srcStride0, double* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_64f_3x3_L(const double* const* src, uint32_t srcShift, uint32_t srcStride1,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_64f_3x3_LS2(const double* const* src, uint32_t srcShift,
+    uint32_t srcStride1, uint32_t srcStride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_64f_4x4(const double* src, uint32_t srcStride0, uint32_t srcStride1,
+    double* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_64f_4x4_S2(const double* src, uint32_t srcStride0, uint32_t srcStride1,
+    uint32_t srcStride2, double* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_64f_4x4_P(const double* const* src, uint32_t srcShift, double* const* dst,
+    uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_64f_4x4_PS2(const double* const* src, uint32_t srcShift,
+    uint32_t srcStride0, double* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_64f_4x4_L(const double* const* src, uint32_t srcShift, uint32_t srcStride1,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_64f_4x4_LS2(const double* const* src, uint32_t srcShift,
+    uint32_t srcStride1, uint32_t srcStride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_64f_5x5(const double* src, uint32_t srcStride0, uint32_t srcStride1,
+    double* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_64f_5x5_S2(const double* src, uint32_t srcStride0, uint32_t srcStride1,
+    uint32_t srcStride2, double* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_64f_5x5_P(const double* const* src, uint32_t srcShift, double* const* dst,
+    uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_64f_5x5_PS2(const double* const* src, uint32_t srcShift,
+    uint32_t srcStride0, double* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_64f_5x5_L(const double* const* src, uint32_t srcShift, uint32_t srcStride1,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_64f_5x5_LS2(const double* const* src, uint32_t srcShift,
+    uint32_t srcStride1, uint32_t srcStride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_64f_6x6(const double* src, uint32_t srcStride0, uint32_t srcStride1,
+    double* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_64f_6x6_S2(const double* src, uint32_t srcStride0, uint32_t srcStride1,
+    uint32_t srcStride2, double* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_64f_6x6_P(const double* const* src, uint32_t srcShift, double* const* dst,
+    uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_64f_6x6_PS2(const double* const* src, uint32_t srcShift,
+    uint32_t srcStride0, double* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_64f_6x6_L(const double* const* src, uint32_t srcShift, uint32_t srcStride1,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkInvert_ma_64f_6x6_LS2(const double* const* src, uint32_t srcShift,
+    uint32_t srcStride1, uint32_t srcStride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
 /* End of what tools/generate makes. */
 
 #ifdef __cplusplus

@@ -294,7 +294,7 @@ struct Packed<float, 5>
         store(to.at(0, 0), border.corner);
         storeVector<float>(to.at(0, 1), border.above);
         each<4>([&](auto i) TENK_LAMBDA {
-            store<float>(to.at(i + 1, 0), border.left[i]);
+            store<float>(to.at(i + 1, 0), border.left[std::size_t{i}]);
             storeVector<float>(to.at(i + 1, 1), inverse.row[i]);
         });
         return true;
