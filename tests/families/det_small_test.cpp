@@ -241,13 +241,15 @@ void isClose()
                         sum += std::fabs(a[i * n + j]);
                     products *= sum;
                 }
-                const auto exact = static_cast<double>(ExactInverse(a, n).determinant);
+                const Exact exact = ExactInverse(a, n).determinant;
                 const double unit = std::numeric_limits<T>::epsilon() / 2;
                 const double terms = 2 * static_cast<double>(n);
                 eachMember<T>([&](auto code, auto layout, auto value) {
-                    const double bound = isWide(layout) ? unit * std::fabs(exact) + terms * 0x1p-64 * products
+                    const double bound = isWide(layout) ? unit * static_cast<double>(absolute(exact)) +
+                                                              terms * 0x1p-64 * products
                                                         : terms * unit * products;
-                    EXPECT_LE(std::fabs(value(a, n) - exact), bound * (1 + 1e-9)) << code << n << layout;
+                    const Exact error = absolute(static_cast<Exact>(value(a, n)) - exact);
+                    EXPECT_LE(static_cast<double>(error), bound * (1 + 1e-9)) << code << n << layout;
                 });
             }
 }
