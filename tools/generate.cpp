@@ -1,8 +1,8 @@
 // Makes from the table what would otherwise be a second list of it.
 //
 //   generate entries DIR [HEADER ...]
-//                            entry points, one file for each root, type and layout, and the export map DIR/tenk.map;
-//                            with names of headers, such as add, for their families alone
+//                            entry points, one file for each root, type and layout, and the export map
+//                            DIR/tenk.map; with names of headers, such as add, for their families alone
 //   generate headers DIR     the prototypes in DIR/tenk/*.h and the list of headers in DIR/tenk.h, in place
 //   generate names           every function that is built, a line each
 //   generate where NAME      the files behind a function
@@ -113,7 +113,8 @@ std::string call(const Function& f)
             items.emplace_back("{}");
         } else if (isOperandWord(word)) {
             std::string group = "Arguments{";
-            for (bool first = true; next < f.parameters.size() && f.parameters[next].word == word; first = false) {
+            for (bool first = true; next < f.parameters.size() && f.parameters[next].word == word;
+                 first = false) {
                 const Parameter& p = f.parameters[next++];
                 group += (first ? "." : ", .") + p.field + " = " + p.name;
             }
@@ -134,7 +135,8 @@ std::string entryPoint(const Function& f)
 
 void generateEntries(const std::filesystem::path& dir, const std::vector<Function>& functions)
 {
-    struct Unit {
+    struct Unit
+    {
         std::map<std::string_view, bool> sources;
         std::string header, text;
     };

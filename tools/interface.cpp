@@ -24,8 +24,8 @@ std::string suffix(Layout l)
 
 std::string nameOf(const Member& m, std::string_view codes)
 {
-    std::string name = "tenk" + std::string(roots[static_cast<std::size_t>(m.root)].name) + "_" + std::string(codes) +
-                       (m.type == Type::f32 ? "_32f" : "_64f");
+    std::string name = "tenk" + std::string(roots[static_cast<std::size_t>(m.root)].name) + "_" +
+                       std::string(codes) + (m.type == Type::f32 ? "_32f" : "_64f");
     if (m.size != 0) {
         const std::string n = std::to_string(m.size);
         name += "_" + n + "x" + (m.source(0).kind == 'v' ? "1" : n);
@@ -41,7 +41,8 @@ void addOperand(std::vector<Parameter>& to, const Member& m, std::string_view wo
     const std::string name(word);
     const bool pointers = isTable(layout) || (code.array && isList(layout));
     const Steps has = steps(layout, code);
-    to.push_back({(written ? "" : "const ") + elementText(m) + (pointers ? "* const*" : "*"), name, name, "p"});
+    to.push_back(
+        {(written ? "" : "const ") + elementText(m) + (pointers ? "* const*" : "*"), name, name, "p"});
     if (has.shift)
         to.push_back({"uint32_t", name + "Shift", name, "shift"});
     if (has.stride0 || (word == "src1" && takesUnusedStride0(m)))

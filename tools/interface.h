@@ -8,14 +8,16 @@
 
 namespace tenk::tools {
 
-struct Parameter {
+struct Parameter
+{
     std::string type; // as declared
     std::string name;
-    std::string word; // the word of the form that brought it
+    std::string word;  // the word of the form that brought it
     std::string field; // of an operand's arguments: p, shift, stride0, stride1, stride2
 };
 
-struct Function {
+struct Function
+{
     const Family* family;
     Member member;
     std::string codes; // as in the name

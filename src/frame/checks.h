@@ -1,5 +1,5 @@
-// The steps of validation, one helper each. Every family calls them in the order in which it promises them; that order
-// is, unless a family says otherwise:
+// The steps of validation, one helper each. Every family calls them in the order in which it promises them;
+// that order is, unless a family says otherwise:
 //
 //   1. main pointers                              anyNull           tenkNullPointerError
 //   2. sizes, in general members                  anyZero           tenkSizeError

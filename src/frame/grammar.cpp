@@ -7,7 +7,8 @@ namespace {
 constexpr auto counts = [] {
     std::array<unsigned, std::size(roots)> n{};
     n[static_cast<std::size_t>(Root::GetLibVersion)] = 1;
-    eachMember([&](const Family& f, std::string_view, const Member&) { ++n[static_cast<std::size_t>(f.root)]; });
+    eachMember(
+        [&](const Family& f, std::string_view, const Member&) { ++n[static_cast<std::size_t>(f.root)]; });
     return n;
 }();
 

@@ -2,8 +2,8 @@
 // export map, tests and benchmarks are made.
 //
 // A name is  tenk<Root>_<operands>_<type>[_<size>][_<layout>], for example tenkAdd_mam_32f_3x3_PS2.
-// Member is such a name, taken apart. A member is spelled by its name wherever one has to be named; a name that
-// does not exist does not compile.
+// Member is such a name, taken apart. A member is spelled by its name wherever one has to be named; a name
+// that does not exist does not compile.
 #pragma once
 
 #include <array>
@@ -13,7 +13,8 @@
 
 namespace tenk {
 
-enum class Root : std::uint8_t {
+enum class Root : std::uint8_t
+{
     Add,
     Sub,
     Mul,
@@ -38,10 +39,15 @@ enum class Root : std::uint8_t {
     GetLibVersion,
 };
 
-enum class Type : std::uint8_t { f32, f64 };
+enum class Type : std::uint8_t
+{
+    f32,
+    f64
+};
 
 // Layouts in which an operand is found in memory; src/frame/operand.h has the address formulas.
-enum class Layout : std::uint8_t {
+enum class Layout : std::uint8_t
+{
     Standard,       // object after object, the elements of a row adjacent
     Strided,        // _S2: the same with a step between elements
     Pointer,        // _P: a table with one pointer per element, each to a run over the objects
@@ -68,8 +74,10 @@ constexpr bool isDense(Layout l)
     return l == Layout::Standard || l == Layout::List;
 }
 
-// One operand of a name: matrix, vector or constant; one object or an array of them; used transposed or as stored.
-struct Code {
+// One operand of a name: matrix, vector or constant; one object or an array of them; used transposed or as
+// stored.
+struct Code
+{
     char kind = 0; // 'm', 'v' or 'c'
     bool array = false;
     bool transposed = false;
@@ -77,7 +85,8 @@ struct Code {
 };
 
 // What an operand of a layout brings along, in the order in which it is passed: the whole argument table.
-struct Steps {
+struct Steps
+{
     bool shift, stride0, stride1, stride2;
 };
 
@@ -93,7 +102,8 @@ constexpr Steps steps(Layout l, Code c)
 // The table
 // ---------------------------------------------------------------------------------------------------------------
 
-struct RootRow {
+struct RootRow
+{
     std::string_view name;
     std::string_view header; // include/tenk/<header>.h
     unsigned functions;      // how many names the root has
@@ -127,52 +137,67 @@ inline constexpr RootRow roots[] = {
 inline constexpr unsigned allFunctions = 5332;
 
 // Sizes in which a family exists: with size arguments, or of an order in the name.
-enum class Sizes : std::uint8_t { all, general, fixed, onlyThree };
+enum class Sizes : std::uint8_t
+{
+    all,
+    general,
+    fixed,
+    onlyThree
+};
 
 // Layouts in which a family exists.
-enum class Layouts : std::uint8_t {
+enum class Layouts : std::uint8_t
+{
     grid,      // the first three; with an array among the operands all six
-    pairs,     // a letter each for the layouts of source and destination: S Strided, L StridedList, P StridedPointer
+    pairs,     // a letter each for the layouts of source and destination: S Strided, L StridedList, P
+               // StridedPointer
     letter,    // one such letter
-    extracted, // those that Extract reads: Strided, and the pointer layouts (Pointer for one object, else the strided)
+    extracted, // those that Extract reads: Strided, and the pointer layouts (Pointer for one object, else the
+               // strided)
 };
 
 // A family: codes of a root that share their argument list and their code.
-struct Family {
+struct Family
+{
     Root root;
     std::string_view codes; // operand codes, separated by spaces
     Sizes sizes;
     Layouts layouts;
-    std::string_view form;   // the arguments in order; see below
-    std::string_view source; // the file under src/ with the template behind the entry points; empty: not built yet
-    std::string_view entry;  // the template
+    std::string_view form; // the arguments in order; see below
+    std::string_view
+        source; // the file under src/ with the template behind the entry points; empty: not built yet
+    std::string_view entry; // the template
 };
 
-// The words of a form: `src`, `src1`, `src2`, `src3` are the sources in order, `dst` the destination, each with what
-// steps() says; `result` is a destination that is a plain run of elements; a name in `sizeWords` is an argument of
-// the general members only, `count` one of the members with an array; all others are single arguments.
+// The words of a form: `src`, `src1`, `src2`, `src3` are the sources in order, `dst` the destination, each
+// with what steps() says; `result` is a destination that is a plain run of elements; a name in `sizeWords` is
+// an argument of the general members only, `count` one of the members with an array; all others are single
+// arguments.
 inline constexpr Family families[] = {
     {Root::Add, "mm mTm mmT mTmT mam maTm mamT maTmT mama maTma mamaT maTmaT", Sizes::all, Layouts::grid,
      "src1 src2 dst width height count", "", "matrixSum"},
     {Root::Add, "vv vav vava", Sizes::all, Layouts::grid, "src1 src2 dst length count", "", "vectorSum"},
     {Root::Add, "vc vac", Sizes::all, Layouts::grid, "src value dst length count", "", "constantSum"},
-    {Root::Sub,
-     "mm mTm mmT mTmT mam maTm mamT maTmT mama maTma mamaT maTmaT mma mTma mmaT mTmaT",
-     Sizes::all, Layouts::grid, "src1 src2 dst width height count", "", "matrixSum"},
+    {Root::Sub, "mm mTm mmT mTmT mam maTm mamT maTmT mama maTma mamaT maTmaT mma mTma mmaT mTmaT", Sizes::all,
+     Layouts::grid, "src1 src2 dst width height count", "", "matrixSum"},
     {Root::Sub, "vv vav vva vava", Sizes::all, Layouts::grid, "src1 src2 dst length count", "", "vectorSum"},
     {Root::Sub, "vc cv vac cva", Sizes::all, Layouts::grid, "src value dst length count", "", "constantSum"},
-    {Root::Mul, "mc mTc mac maTc", Sizes::all, Layouts::grid, "src value dst width height count", "", "matrixScale"},
+    {Root::Mul, "mc mTc mac maTc", Sizes::all, Layouts::grid, "src value dst width height count", "",
+     "matrixScale"},
     {Root::Mul, "vc vac", Sizes::all, Layouts::grid, "src value dst length count", "", "vectorScale"},
     {Root::Mul, "mv mTv mav maTv mva mTva mava maTva", Sizes::all, Layouts::grid,
      "src1 src1Width src1Height src2 src2Length dst count", "", "matrixVector"},
-    {Root::Mul,
-     "mm mTm mmT mTmT mam maTm mamT maTmT mma mTma mmaT mTmaT mama maTma mamaT maTmaT",
-     Sizes::all, Layouts::grid, "src1 src1Width src1Height src2 src2Width src2Height dst count", "", "matrixMatrix"},
-    {Root::Saxpy, "vv vav vva vava", Sizes::all, Layouts::grid, "src1 value src2 dst length count", "", "saxpy"},
-    {Root::LComb, "vv vav vava", Sizes::all, Layouts::grid, "src1 value1 src2 value2 dst length count", "", "lcomb"},
+    {Root::Mul, "mm mTm mmT mTmT mam maTm mamT maTmT mma mTma mmaT mTmaT mama maTma mamaT maTmaT", Sizes::all,
+     Layouts::grid, "src1 src1Width src1Height src2 src2Width src2Height dst count", "", "matrixMatrix"},
+    {Root::Saxpy, "vv vav vva vava", Sizes::all, Layouts::grid, "src1 value src2 dst length count", "",
+     "saxpy"},
+    {Root::LComb, "vv vav vava", Sizes::all, Layouts::grid, "src1 value1 src2 value2 dst length count", "",
+     "lcomb"},
     {Root::Gaxpy, "v va", Sizes::all, Layouts::grid, "src1 src2 src3 dst width height count", "", "gaxpy"},
-    {Root::DotProduct, "vv vav vava", Sizes::all, Layouts::grid, "src1 src2 result length count", "", "dotProduct"},
-    {Root::CrossProduct, "vv vav vva vava", Sizes::onlyThree, Layouts::grid, "src1 src2 dst count", "", "crossProduct"},
+    {Root::DotProduct, "vv vav vava", Sizes::all, Layouts::grid, "src1 src2 result length count", "",
+     "dotProduct"},
+    {Root::CrossProduct, "vv vav vva vava", Sizes::onlyThree, Layouts::grid, "src1 src2 dst count", "",
+     "crossProduct"},
     {Root::L2Norm, "v va", Sizes::all, Layouts::grid, "src result length count", "", "l2Norm"},
     {Root::Trace, "m ma", Sizes::all, Layouts::grid, "src order result count", "", "trace"},
     {Root::FrobNorm, "m ma", Sizes::all, Layouts::grid, "src width height result count", "", "frobNorm"},
@@ -180,13 +205,14 @@ inline constexpr Family families[] = {
     {Root::Det, "m ma", Sizes::fixed, Layouts::grid, "src result count", "", "detSmall"},
     {Root::Invert, "m ma", Sizes::general, Layouts::grid, "src order scratch dst count", "", "invert"},
     {Root::Invert, "m ma", Sizes::fixed, Layouts::grid, "src dst count", "", "invertSmall"},
-    {Root::LUDecomp, "m ma", Sizes::all, Layouts::grid, "src rowIndexOut dst order count", "lu/decompose.h", "luDecomp"},
-    {Root::LUBackSubst, "mv mva mava", Sizes::all, Layouts::grid, "src1 rowIndexIn src2 dst order count", "lu/solve.h",
-     "luBackSubst"},
-    {Root::QRDecomp, "m ma", Sizes::all, Layouts::grid, "src buffer dst width height count", "qr/decompose.h",
-     "qrDecomp"},
-    {Root::QRBackSubst, "mv mva mava", Sizes::all, Layouts::grid, "src1 buffer src2 dst width height count", "qr/solve.h",
-     "qrBackSubst"},
+    {Root::LUDecomp, "m ma", Sizes::all, Layouts::grid, "src rowIndexOut dst order count", "lu/decompose.h",
+     "luDecomp"},
+    {Root::LUBackSubst, "mv mva mava", Sizes::all, Layouts::grid, "src1 rowIndexIn src2 dst order count",
+     "lu/solve.h", "luBackSubst"},
+    {Root::QRDecomp, "m ma", Sizes::all, Layouts::grid, "src buffer dst width height count",
+     "qr/decompose.h", "qrDecomp"},
+    {Root::QRBackSubst, "mv mva mava", Sizes::all, Layouts::grid, "src1 buffer src2 dst width height count",
+     "qr/solve.h", "qrBackSubst"},
     {Root::Copy, "ma", Sizes::general, Layouts::pairs, "src dst width height count", "move/copy.h", "copy"},
     {Root::Copy, "va", Sizes::general, Layouts::pairs, "src dst length count", "move/copy.h", "copy"},
     {Root::Transpose, "m ma", Sizes::all, Layouts::grid, "src width height dst count", "move/transpose.h",
@@ -195,12 +221,14 @@ inline constexpr Family families[] = {
      "move/extract.h", "extract"},
     {Root::Extract, "v va", Sizes::general, Layouts::extracted, "src result length count", "move/extract.h",
      "extract"},
-    {Root::LoadIdentity, "ma", Sizes::general, Layouts::letter, "dst width height count", "move/load_identity.h",
-     "loadIdentity"},
+    {Root::LoadIdentity, "ma", Sizes::general, Layouts::letter, "dst width height count",
+     "move/load_identity.h", "loadIdentity"},
 };
 
-// Names that share the entry point of another: the second name takes its arguments in the positions of the first.
-struct SecondName {
+// Names that share the entry point of another: the second name takes its arguments in the positions of the
+// first.
+struct SecondName
+{
     std::string_view name, sameAs;
 };
 inline constexpr SecondName secondNames[] = {
@@ -210,27 +238,29 @@ inline constexpr SecondName secondNames[] = {
     {"tenkExtract_maT_64f_PS2", "tenkExtract_ma_64f_PS2"},
 };
 
-inline constexpr std::string_view sizeWords = " width height length order src1Width src1Height src2Width src2Height "
-                                              "src2Length ";
+inline constexpr std::string_view sizeWords =
+    " width height length order src1Width src1Height src2Width src2Height "
+    "src2Length ";
 
 // ---------------------------------------------------------------------------------------------------------------
 // Members
 // ---------------------------------------------------------------------------------------------------------------
 
-struct Member {
+struct Member
+{
     Root root{};
-    std::uint8_t operands = 0;    // how many of `operand` are in use
-    Code operand[3]{};            // the operands in the order of the formula, constants among them
+    std::uint8_t operands = 0; // how many of `operand` are in use
+    Code operand[3]{};         // the operands in the order of the formula, constants among them
     Type type{};
-    std::uint8_t size = 0;        // 3 to 6 for a fixed size, 0 for a general member
-    Layout layout{};              // of the sources, and of the destination but for Copy
+    std::uint8_t size = 0; // 3 to 6 for a fixed size, 0 for a general member
+    Layout layout{};       // of the sources, and of the destination but for Copy
     Layout dstLayout{};
 
     constexpr Member() = default;
 
     // From an exported name. The name must exist.
     template <std::size_t N>
-    consteval Member(const char (&name)[N]); // NOLINT(google-explicit-constructor): members are spelled by name
+    consteval Member(const char (&name)[N]);
 
     bool operator==(const Member&) const = default;
 
@@ -264,12 +294,12 @@ struct Member {
     constexpr bool general() const { return size == 0; }
 };
 
-// A solve with one factor and many right-hand sides passes the factor like an array: its src1Stride0 is an argument
-// that nobody reads.
+// A solve with one factor and many right-hand sides passes the factor like an array: its src1Stride0 is an
+// argument that nobody reads.
 constexpr bool takesUnusedStride0(const Member& m)
 {
-    return (m.root == Root::LUBackSubst || m.root == Root::QRBackSubst) && m.operand[1].array && !m.operand[0].array &&
-           !isTable(m.layout);
+    return (m.root == Root::LUBackSubst || m.root == Root::QRBackSubst) && m.operand[1].array &&
+           !m.operand[0].array && !isTable(m.layout);
 }
 
 // Calls f with each word of a text, words being separated by spaces.
@@ -306,25 +336,29 @@ constexpr void readCodes(Member& m, std::string_view codes)
 // The letters that stand for the three general layouts in the names of Copy and LoadIdentity.
 constexpr char letterOf(Layout l)
 {
-    return l == Layout::Strided ? 'S' : l == Layout::StridedList ? 'L' : l == Layout::StridedPointer ? 'P' : 0;
+    return l == Layout::Strided          ? 'S'
+           : l == Layout::StridedList    ? 'L'
+           : l == Layout::StridedPointer ? 'P'
+                                         : 0;
 }
 
 constexpr bool exists(Layouts set, const Member& m)
 {
     switch (set) {
     case Layouts::grid:
-        return m.layout == m.dstLayout &&
-               (m.batch() || m.layout == Layout::Standard || m.layout == Layout::Strided || m.layout == Layout::Pointer);
+        return m.layout == m.dstLayout && (m.batch() || m.layout == Layout::Standard ||
+                                           m.layout == Layout::Strided || m.layout == Layout::Pointer);
     case Layouts::pairs:
         return letterOf(m.layout) && letterOf(m.dstLayout);
     case Layouts::letter:
         return m.layout == m.dstLayout && letterOf(m.layout);
     case Layouts::extracted: {
         // One transposed matrix is read from Strided layout in 32f only, transposed arrays not at all.
-        const bool strided = m.layout == Layout::Strided &&
-                             !(m.operand[0].transposed && (m.batch() || m.type == Type::f64));
-        const bool pointers =
-            m.batch() ? m.layout == Layout::StridedPointer || m.layout == Layout::StridedList : m.layout == Layout::Pointer;
+        const bool strided =
+            m.layout == Layout::Strided && !(m.operand[0].transposed && (m.batch() || m.type == Type::f64));
+        const bool pointers = m.batch()
+                                  ? m.layout == Layout::StridedPointer || m.layout == Layout::StridedList
+                                  : m.layout == Layout::Pointer;
         return m.layout == m.dstLayout && (strided || pointers);
     }
     }
@@ -368,7 +402,8 @@ constexpr void eachMember(F f)
 // Reading a name
 // ---------------------------------------------------------------------------------------------------------------
 
-// Never defined: a constant expression that gets here is no constant expression, which is the compiler's error.
+// Never defined: a constant expression that gets here is no constant expression, which is the compiler's
+// error.
 void thisNameIsNotInTheGrammar();
 
 constexpr Layout layoutOf(char letter)
@@ -405,7 +440,8 @@ consteval Member::Member(const char (&name)[N])
     const std::string_view typeName = takePart(rest);
 
     while (roots[static_cast<std::size_t>(root)].name != rootName)
-        root = static_cast<Root>(static_cast<unsigned>(root) + 1); // past the end: no constant expression either
+        root =
+            static_cast<Root>(static_cast<unsigned>(root) + 1); // past the end: no constant expression either
     readCodes(*this, codes);
     if (typeName != "32f" && typeName != "64f")
         thisNameIsNotInTheGrammar();
@@ -418,6 +454,8 @@ consteval Member::Member(const char (&name)[N])
             thisNameIsNotInTheGrammar();
     }
     if (root == Root::Copy || root == Root::LoadIdentity) {
+        if (rest.size() != (root == Root::Copy ? 2 : 1))
+            thisNameIsNotInTheGrammar();
         layout = layoutOf(rest[0]);
         dstLayout = layoutOf(rest.back());
     } else {

@@ -3,14 +3,15 @@
 
 #include <cstdint>
 
-// Kernels, their helpers and their lambdas are part of the entry point that uses them: nothing here is ever called.
+// Kernels, their helpers and their lambdas are part of the entry point that uses them: nothing here is ever
+// called.
 #define TENK_INLINE [[gnu::always_inline]] inline
 #define TENK_LAMBDA __attribute__((always_inline))
 
 namespace tenk {
 
-// A byte address. Plain arithmetic on it wraps as the processor's does, and an address made from a null table entry
-// is an address like any other.
+// A byte address. Plain arithmetic on it wraps as the processor's does, and an address made from a null table
+// entry is an address like any other.
 using Address = std::uintptr_t;
 
 // A stride or shift: a 32-bit two's-complement number of bytes, at the width of an address.
@@ -45,11 +46,13 @@ TENK_INLINE void store(Address a, T value)
 template <typename T>
 struct BitsOf;
 template <>
-struct BitsOf<float> {
+struct BitsOf<float>
+{
     using type = std::uint32_t;
 };
 template <>
-struct BitsOf<double> {
+struct BitsOf<double>
+{
     using type = std::uint64_t;
 };
 

@@ -1,7 +1,7 @@
 // Operands: the arguments of one operand of a function, and where its elements are.
 //
-// An operand knows addresses and nothing else. object(k) gives a view of object k, and a view gives the address of its
-// element (i, j); a vector is one row. In bytes, with E the size of an element:
+// An operand knows addresses and nothing else. object(k) gives a view of object k, and a view gives the
+// address of its element (i, j); a vector is one row. In bytes, with E the size of an element:
 //
 //   layout           object k starts at              element (i, j) of the object is at
 //   Standard         p + k Stride0                   start + i Stride1 + j E
@@ -11,8 +11,8 @@
 //   List             p[k] + Shift                    start + i Stride1 + j E
 //   StridedList      p[k] + Shift                    start + i Stride1 + j Stride2
 //
-// The single operand of a function that has an array is the same object for every k: no term in k, no step along the
-// runs of its table, and in the two list layouts p is its address and not a list.
+// The single operand of a function that has an array is the same object for every k: no term in k, no step
+// along the runs of its table, and in the two list layouts p is its address and not a list.
 #pragma once
 
 #include "frame/grammar.h"
@@ -23,11 +23,13 @@ namespace tenk {
 template <Type type>
 struct ElementOf;
 template <>
-struct ElementOf<Type::f32> {
+struct ElementOf<Type::f32>
+{
     using type = float;
 };
 template <>
-struct ElementOf<Type::f64> {
+struct ElementOf<Type::f64>
+{
     using type = double;
 };
 template <Member m>
@@ -35,14 +37,16 @@ using Element = typename ElementOf<m.type>::type;
 
 // A size: the number in a member's name, or a word at run time.
 template <unsigned n>
-struct Extent {
-    constexpr operator std::uint32_t() const { return n; } // NOLINT(google-explicit-constructor): it is a number
+struct Extent
+{
+    constexpr operator std::uint32_t() const { return n; }
 };
 template <>
-struct Extent<0> {
+struct Extent<0>
+{
     std::uint32_t n;
-    Extent(std::uint32_t words) : n(words) {} // NOLINT(google-explicit-constructor): it is a number
-    operator std::uint32_t() const { return n; } // NOLINT(google-explicit-constructor)
+    Extent(std::uint32_t words) : n(words) {}
+    operator std::uint32_t() const { return n; }
 };
 
 // The size arguments of a member, and its number of objects.
@@ -57,7 +61,8 @@ using Count = Extent<m.batch() ? 0 : 1>;
 
 // Rows of adjacent elements.
 template <typename T>
-struct DenseView {
+struct DenseView
+{
     Address start;
     Displacement rowStep;
     static constexpr Displacement elementStep = sizeof(T);
@@ -68,7 +73,8 @@ struct DenseView {
 
 // Rows of elements a step apart.
 template <typename T>
-struct StridedView {
+struct StridedView
+{
     Address start;
     Displacement rowStep;
     Displacement elementStep;
@@ -79,7 +85,8 @@ struct StridedView {
 
 // Elements behind a table of pointers whose rows have `width` entries.
 template <typename T>
-struct TableView {
+struct TableView
+{
     Address table;
     Address offset;
     std::size_t width;
@@ -95,7 +102,8 @@ struct TableView {
 // ---------------------------------------------------------------------------------------------------------------
 
 // The arguments of an operand as they were passed; those that its layout does not have stay 0.
-struct Arguments {
+struct Arguments
+{
     const void* p;
     std::uint32_t shift = 0;
     std::uint32_t stride0 = 0;
@@ -104,7 +112,8 @@ struct Arguments {
 };
 
 template <typename T, Layout layout, Code code>
-struct Operand {
+struct Operand
+{
     using Value = T;
     static constexpr bool table = isTable(layout);
     static constexpr bool list = isList(layout) && code.array;
@@ -112,9 +121,13 @@ struct Operand {
     Address p;
     Displacement shift, stride0, stride1, stride2;
 
-    TENK_INLINE Operand(const Arguments& a) // NOLINT(google-explicit-constructor): entry points pass lists of arguments
-        : p(reinterpret_cast<Address>(a.p)), shift(displacement(a.shift)), stride0(displacement(a.stride0)),
-          stride1(displacement(a.stride1)), stride2(displacement(a.stride2))
+    TENK_INLINE
+    Operand(const Arguments& a)
+        : p(reinterpret_cast<Address>(a.p)),
+          shift(displacement(a.shift)),
+          stride0(displacement(a.stride0)),
+          stride1(displacement(a.stride1)),
+          stride2(displacement(a.stride2))
     {
     }
 

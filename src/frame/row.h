@@ -1,10 +1,11 @@
 // Rows of N adjacent elements in 128-bit vectors, and square blocks of them.
 //
-// A row is loaded and stored without touching a byte outside it, at any address. No lane ever holds a value that is not
-// an element of the row: arithmetic on a row raises no exception flag that its elements would not raise one by one.
+// A row is loaded and stored without touching a byte outside it, at any address. No lane ever holds a value
+// that is not an element of the row: arithmetic on a row raises no exception flag that its elements would not
+// raise one by one.
 //
-//   32f: quads of four; then, for what is left over, one element alone, two as lanes 0 1 0 1, three as 0 1 1 2
-//   64f: pairs; then one element alone
+//   32f: quads of four; then, for what is left over, one element alone, two as lanes 0 1 0 1, three as 0 1 1
+//   2 64f: pairs; then one element alone
 #pragma once
 
 #include <emmintrin.h>
@@ -16,8 +17,9 @@ namespace tenk {
 
 // Calls f(index<0>), ..., f(index<n - 1>): a loop that is always written out.
 template <std::size_t i>
-struct Index {
-    constexpr operator std::size_t() const { return i; } // NOLINT(google-explicit-constructor): it is a number
+struct Index
+{
+    constexpr operator std::size_t() const { return i; }
 };
 template <std::size_t i>
 inline constexpr Index<i> index{};
@@ -25,7 +27,11 @@ inline constexpr Index<i> index{};
 template <std::size_t n, typename F>
 TENK_INLINE void each(F f)
 {
-    [&]<std::size_t... i>(std::index_sequence<i...>) TENK_LAMBDA { (f(index<i>), ...); }(std::make_index_sequence<n>());
+    [&]<std::size_t... i>(std::index_sequence<i...>) TENK_LAMBDA
+    {
+        (f(index<i>), ...);
+    }
+    (std::make_index_sequence<n>());
 }
 
 // ---------------------------------------------------------------------------------------------------------------
@@ -35,11 +41,13 @@ TENK_INLINE void each(F f)
 template <typename T>
 struct VectorOf;
 template <>
-struct VectorOf<float> {
+struct VectorOf<float>
+{
     typedef float type __attribute__((vector_size(16)));
 };
 template <>
-struct VectorOf<double> {
+struct VectorOf<double>
+{
     typedef double type __attribute__((vector_size(16)));
 };
 template <typename T>
@@ -87,21 +95,24 @@ TENK_INLINE void storeHigh(Address a, Vector<float> v)
 // What is left of a row behind its full vectors
 // ---------------------------------------------------------------------------------------------------------------
 
-struct Nothing {
+struct Nothing
+{
 };
 
 template <typename T, unsigned n>
 struct Rest;
 
 template <typename T>
-struct Rest<T, 0> {
+struct Rest<T, 0>
+{
     using Lanes = Nothing;
     TENK_INLINE static Lanes load(Address) { return {}; }
     TENK_INLINE static void store(Address, Lanes) {}
 };
 
 template <typename T>
-struct Rest<T, 1> {
+struct Rest<T, 1>
+{
     using Lanes = T;
     static constexpr unsigned laneOf[] = {0};
     TENK_INLINE static Lanes load(Address a) { return tenk::load<T>(a); }
@@ -109,7 +120,8 @@ struct Rest<T, 1> {
 };
 
 template <>
-struct Rest<float, 2> {
+struct Rest<float, 2>
+{
     using Lanes = Vector<float>;
     static constexpr unsigned laneOf[] = {0, 1};
     TENK_INLINE static Lanes load(Address a) { return loadHalves(a, a); }
@@ -117,7 +129,8 @@ struct Rest<float, 2> {
 };
 
 template <>
-struct Rest<float, 3> {
+struct Rest<float, 3>
+{
     using Lanes = Vector<float>;
     static constexpr unsigned laneOf[] = {0, 1, 3};
     TENK_INLINE static Lanes load(Address a) { return loadHalves(a, a + 4); }
@@ -133,7 +146,8 @@ struct Rest<float, 3> {
 // ---------------------------------------------------------------------------------------------------------------
 
 template <typename T, unsigned n>
-struct Row {
+struct Row
+{
     static constexpr unsigned full = n / lanes<T>; // full vectors
     static constexpr unsigned left = n % lanes<T>; // elements behind them
     using Tail = Rest<T, left>;
@@ -178,7 +192,8 @@ struct Row {
             return rest[Tail::laneOf[j % lanes<T>]];
     }
 
-    // The row whose vectors are f of the vectors of a and b, whichever way the elements are split among vectors.
+    // The row whose vectors are f of the vectors of a and b, whichever way the elements are split among
+    // vectors.
     template <typename F>
     TENK_INLINE static Row combine(const Row& a, const Row& b, F f)
     {
@@ -208,7 +223,8 @@ struct Row {
 // ---------------------------------------------------------------------------------------------------------------
 
 template <typename T, unsigned n>
-struct Block {
+struct Block
+{
     Row<T, n> row[n];
 
     template <typename View>
@@ -227,7 +243,8 @@ struct Block {
 };
 
 // ---------------------------------------------------------------------------------------------------------------
-// Transposition: tiles of full vectors are turned by shuffles, what is left along the edges element by element
+// Transposition: tiles of full vectors are turned by shuffles, what is left along the edges element by
+// element
 // ---------------------------------------------------------------------------------------------------------------
 
 template <unsigned... lane, typename V>

@@ -1,15 +1,15 @@
 // Copy: vectors and matrices from one of the three general layouts to another, as raw bits.
 //
-// Elements move one by one, objects outermost, then rows, then elements, with no temporary: a destination that overlaps
-// later source elements overwrites them before they are read. No table or list entry is tested.
+// Elements move one by one, objects outermost, then rows, then elements, with no temporary: a destination
+// that overlaps later source elements overwrites them before they are read. No table or list entry is tested.
 #pragma once
 
 #include "frame/checks.h"
 
 namespace tenk {
 
-// From table to table, vectors are read through the destination's table, with the source's shift and stride; the
-// source's own table is tested for null and never read. Matrices are read through the source's.
+// From table to table, vectors are read through the destination's table, with the source's shift and stride;
+// the source's own table is tested for null and never read. Matrices are read through the source's.
 consteval bool readsThroughDestination(Member m)
 {
     return m == "tenkCopy_va_32f_PP" || m == "tenkCopy_va_64f_PP";

@@ -1,7 +1,7 @@
 // Extract: elements of a strided, list or pointer layout gathered into one dense run, as raw bits.
 //
-// The run has no strides: element n of it is at dst + n E. No table or list entry is tested, and an empty batch is a
-// size error like any other.
+// The run has no strides: element n of it is at dst + n E. No table or list entry is tested, and an empty
+// batch is a size error like any other.
 #pragma once
 
 #include "frame/checks.h"
@@ -14,8 +14,8 @@ consteval bool testsNothing(Member m)
     return m.layout == Layout::Pointer && !(m == "tenkExtract_v_32f_P");
 }
 
-// A transposed matrix behind a table is walked in the order of the table and scattered into columns, whereas all other
-// members write the run in order and exchange the strides instead. Its shift is not used.
+// A transposed matrix behind a table is walked in the order of the table and scattered into columns, whereas
+// all other members write the run in order and exchange the strides instead. Its shift is not used.
 consteval bool scatters(Member m)
 {
     return m == "tenkExtract_mT_32f_P" || m == "tenkExtract_mT_64f_P";

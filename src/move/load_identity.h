@@ -1,11 +1,12 @@
 // LoadIdentity: zeros and a run of ones, written into an array of matrices.
 //
-// The ones advance by one column from row to row and are not taken back at the head of an object: the one of row i of
-// object k stands in column k height + i. So object 0 alone is an identity. In all others, and in rows below the last
-// column, the one goes where that column would be: past the row, and behind a table through the entry past the row's.
+// The ones advance by one column from row to row and are not taken back at the head of an object: the one of
+// row i of object k stands in column k height + i. So object 0 alone is an identity. In all others, and in
+// rows below the last column, the one goes where that column would be: past the row, and behind a table
+// through the entry past the row's.
 //
-// An empty batch is a size error. `width` and `height` are signed here, and below 1 there is nothing to do. No table or
-// list entry is tested.
+// An empty batch is a size error. `width` and `height` are signed here, and below 1 there is nothing to do.
+// No table or list entry is tested.
 #pragma once
 
 #include "frame/checks.h"

@@ -7,7 +7,8 @@ namespace support {
 namespace {
 
 // What the assembly below reads and writes. Its offsets are spelled out there.
-struct Frame {
+struct Frame
+{
     void* function;               //  0
     const std::uintptr_t* stack;  //  8 / 4   words to be put on the stack, the first at the lowest address
     std::uintptr_t stackWords;    // 16 / 8
@@ -21,8 +22,8 @@ struct Frame {
     std::uint32_t pad;            // 52 / 36
     std::uint8_t environment[32]; // 56 / 40  the x87 environment after the call
 #ifdef __x86_64__
-    std::uintptr_t integer[6];    // 88
-    double value[2];              // 136
+    std::uintptr_t integer[6]; // 88
+    double value[2];           // 136
 #endif
 };
 
