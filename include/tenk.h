@@ -23,6 +23,10 @@
 #include "tenk/gaxpy.h"
 #include "tenk/load_identity.h"
 #include "tenk/mul.h"
+#include "tenk/lu_back_subst.h"
+#include "tenk/lu_decomp.h"
+#include "tenk/qr_back_subst.h"
+#include "tenk/qr_decomp.h"
 #include "tenk/transpose.h"
 /* End of what tools/generate makes. */
 
