@@ -74,12 +74,6 @@ struct DotProduct
                 if (nullInLists(memory, k + ahead, {&src1, &src2}))
                     return nullPointerError;
             }
-            if (!name.anyArray() && src1.isTable()) {
-                for (std::uint32_t i = 0; i < length; ++i) {
-                    if (src1.nullEntry(memory, i) || src2.nullEntry(memory, i))
-                        return nullPointerError;
-                }
-            }
             const auto product = [&](std::uint32_t i) {
                 const T x = memory.load<T>(src1.element(memory, k, i));
                 const T y = memory.load<T>(src2.element(memory, k, i));
@@ -95,7 +89,13 @@ struct DotProduct
             } else if (sumsByAddress(name)) {
                 sum = sumByAddress<T>(src2.pointer(), length, product);
             } else {
-                sum = sequentialSum(T(0), 0, length, product);
+                sum = T(0);
+                for (std::uint32_t i = 0; i < length; ++i) {
+                    // The tables of single vectors are looked at element by element.
+                    if (!name.anyArray() && (src1.nullEntry(memory, i) || src2.nullEntry(memory, i)))
+                        return nullPointerError;
+                    sum = sum + product(i);
+                }
             }
             memory.store(moved(dst, k, sizeof(T)), sum);
         }

@@ -75,6 +75,16 @@ void undecidedIf(bool condition, const char* reason)
         throw Undecided{reason};
 }
 
+void checkFactoring(const Ground& source, const Ground& target, const Ground& besides, Ground& earlier)
+{
+    undecidedIf(target.meetsItself(), "the factors overlap themselves");
+    undecidedIf(!(source == target) && source.meets(target), "source and factors overlap");
+    undecidedIf(besides.meets(source) || besides.meets(target), "rowIndex or buffer overlaps a matrix");
+    undecidedIf(source.meets(earlier), "a source overlaps earlier results");
+    earlier.add(target);
+    earlier.add(besides);
+}
+
 bool nullInAnyTable(Memory& memory, std::initializer_list<const Operand*> operands)
 {
     std::uint32_t longest = 0;

@@ -39,6 +39,11 @@ Ground groundOf(Memory& memory, const Operand& operand, std::uint32_t k);
 // Throws Undecided with this reason if the condition holds.
 void undecidedIf(bool condition, const char* reason);
 
+// What the overlap of a factorisation with itself may be: the factors may take the place of the matrix,
+// element for element. Everything else is undecided: `besides` (rowIndex or buffer) on a matrix, or a matrix
+// on what came of the objects before it. `earlier` gathers that.
+void checkFactoring(const Ground& source, const Ground& target, const Ground& besides, Ground& earlier);
+
 // As nullInTables, and in functions without an array as well: index by index, at each index in the order in
 // which the operands are given.
 bool nullInAnyTable(Memory& memory, std::initializer_list<const Operand*> operands);

@@ -77,8 +77,6 @@ struct L2Norm
                 if (nullInLists(memory, k + ahead, {&src}))
                     return nullPointerError;
             }
-            if (!name.anyArray() && src.nullInTable(memory))
-                return nullPointerError;
             const auto square = [&](std::uint32_t i) {
                 const T x = memory.load<T>(src.element(memory, k, i));
                 const T rounded = x * x;
@@ -93,7 +91,13 @@ struct L2Norm
             } else if (!name.anyArray() && name.general() && name.layout == Layout::standard) {
                 sum = sumByAddress<T>(src.pointer(), length, square);
             } else {
-                sum = sequentialSum(T(0), 0, length, square);
+                sum = T(0);
+                for (std::uint32_t i = 0; i < length; ++i) {
+                    // The table of a single vector is looked at element by element.
+                    if (!name.anyArray() && src.nullEntry(memory, i))
+                        return nullPointerError;
+                    sum = sum + square(i);
+                }
             }
             memory.store(moved(dst, k, sizeof(T)), estimatesRoot(name) ? refinedRoot(sum) : squareRoot(sum));
         }
