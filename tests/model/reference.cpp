@@ -90,6 +90,12 @@ bool roundsToNearest()
     return (_mm_getcsr() & 0x6000u) == 0;
 }
 
+bool roundsBySize()
+{
+    const std::uint32_t rounding = _mm_getcsr() & 0x6000u;
+    return rounding == 0 || rounding == 0x6000u;
+}
+
 bool flushesToZero()
 {
     return (_mm_getcsr() & 0x8000u) != 0;

@@ -46,6 +46,8 @@ extern template double roundoff<double>();
 bool flushesToZero();
 bool ignoresDenormals();
 bool roundsToNearest();
+// To nearest or towards zero: x and -x are rounded alike.
+bool roundsBySize();
 
 // x > y for magnitudes. Where the thread takes denormals for zero it depends on the unit that compares them,
 // which is left open.

@@ -80,6 +80,16 @@ public:
         });
     }
 
+    // The range of a function that is monotonic on this range.
+    template <typename Function>
+    Span mapped(const Function& function) const
+    {
+        Span result(function(low_));
+        if (!exact())
+            result.include(function(high_));
+        return result;
+    }
+
 private:
     static bool same(T x, T y) { return x == y && std::signbit(x) == std::signbit(y); }
     static bool less(T x, T y) { return x < y || (x == y && std::signbit(x) && !std::signbit(y)); }
