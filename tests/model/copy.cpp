@@ -27,6 +27,11 @@ struct Copy
         const Operand dst = call.operand("dst");
         const bool throughDestination = readsThroughDestination(call.name());
         for (std::uint32_t k = 0; k < call.count(); ++k) {
+            // The lists have an entry for each object, also where the objects are empty.
+            for (const Operand* operand : {&src, &dst}) {
+                if (operand->isList())
+                    operand->entry(memory, k);
+            }
             for (std::uint32_t i = 0; i < dst.shape().height; ++i) {
                 for (std::uint32_t j = 0; j < dst.shape().width; ++j) {
                     const Address from =

@@ -244,19 +244,18 @@ std::string Memory::compareStored(std::size_t index) const
     return text;
 }
 
-std::string Memory::compare(std::span<const std::byte> before) const
+std::string Memory::compare(std::span<std::byte> before) const
 {
-    std::vector<std::byte> expected(before.begin(), before.end());
     for (std::size_t i = 0; i < stores_.size(); ++i) {
         if (std::string difference = compareStored(i); !difference.empty())
             return difference;
         const std::size_t offset = stores_[i].address - start();
-        std::memcpy(expected.data() + offset, region_.data() + offset, stores_[i].size);
+        std::memcpy(before.data() + offset, region_.data() + offset, stores_[i].size);
     }
-    if (std::memcmp(expected.data(), region_.data(), region_.size()) == 0)
+    if (std::memcmp(before.data(), region_.data(), region_.size()) == 0)
         return {};
-    const auto different = std::mismatch(expected.begin(), expected.end(), region_.begin());
-    const Address address = start() + static_cast<Address>(different.first - expected.begin());
+    const auto different = std::mismatch(before.begin(), before.end(), region_.begin());
+    const Address address = start() + static_cast<Address>(different.first - before.begin());
     return "the byte at " + addressInWords(address) + " was written, which the model does not write";
 }
 

@@ -169,9 +169,9 @@ public:
     Address start() const { return reinterpret_cast<Address>(region_.data()); }
     std::size_t size() const { return region_.size(); }
 
-    // Compares what the library left in the region with the account; `before` is the region before the call.
-    // Empty if all is well, else the first difference in words.
-    std::string compare(std::span<const std::byte> before) const;
+    // Compares what the library left in the region with the account; `before` is the region before the call,
+    // and is brought up to date. Empty if all is well, else the first difference in words.
+    std::string compare(std::span<std::byte> before) const;
 
 private:
     void store(Address address, const void* from, std::size_t size, Rule rule, double bound);

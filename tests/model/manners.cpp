@@ -1,0 +1,45 @@
+#include "manners.h"
+
+namespace model {
+
+Manners mannersOf(const Name& name)
+{
+    Manners manners;
+    switch (name.root) {
+    case Root::LoadIdentity:
+        manners.signedSizes = true;
+        manners.loosePercent = 60; // short strides are what this family looks at
+        manners.moreRounds = 8;
+        break;
+    case Root::Copy:
+    case Root::Extract:
+        manners.moreRounds = 4;
+        break;
+    case Root::Det:
+    case Root::LUDecomp:
+    case Root::LUBackSubst:
+        manners.largestSize = 8;
+        manners.largeSizes = false;
+        manners.plainPercent = 60;
+        break;
+    case Root::Invert:
+        // Order 1 of the general members has no defined result.
+        manners.smallestSize = 2;
+        manners.largestSize = 6;
+        manners.largeSizes = false;
+        manners.plainPercent = 60;
+        break;
+    case Root::QRDecomp:
+    case Root::QRBackSubst:
+        manners.largestSize = 8;
+        manners.largeSizes = false;
+        manners.tall = true;
+        manners.plainPercent = 60;
+        break;
+    default:
+        break;
+    }
+    return manners;
+}
+
+} // namespace model
