@@ -1,11 +1,18 @@
 #include "manners.h"
 
+#include "add_sub_matrix.h"
+
 namespace model {
 
 Manners mannersOf(const Name& name)
 {
     Manners manners;
     switch (name.root) {
+    case Root::Add:
+    case Root::Sub:
+        // With disagreeing alignments any number may stand in for an element.
+        manners.flagsOpen = name.codes[0].kind == 'm' && arrangesSingleByItsAlignment(name);
+        break;
     case Root::LoadIdentity:
         manners.signedSizes = true;
         manners.loosePercent = 60; // short strides are what this family looks at
