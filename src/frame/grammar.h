@@ -175,44 +175,55 @@ struct Family
 // arguments.
 inline constexpr Family families[] = {
     {Root::Add, "mm mTm mmT mTmT mam maTm mamT maTmT mama maTma mamaT maTmaT", Sizes::all, Layouts::grid,
-     "src1 src2 dst width height count", "", "matrixSum"},
-    {Root::Add, "vv vav vava", Sizes::all, Layouts::grid, "src1 src2 dst length count", "", "vectorSum"},
-    {Root::Add, "vc vac", Sizes::all, Layouts::grid, "src value dst length count", "", "constantSum"},
+     "src1 src2 dst width height count", "elementwise/matrix_sum.h", "matrixSum"},
+    {Root::Add, "vv vav vava", Sizes::all, Layouts::grid, "src1 src2 dst length count",
+     "elementwise/vector_sum.h", "vectorSum"},
+    {Root::Add, "vc vac", Sizes::all, Layouts::grid, "src value dst length count", "elementwise/vector_sum.h",
+     "constantSum"},
     {Root::Sub, "mm mTm mmT mTmT mam maTm mamT maTmT mama maTma mamaT maTmaT mma mTma mmaT mTmaT", Sizes::all,
-     Layouts::grid, "src1 src2 dst width height count", "", "matrixSum"},
-    {Root::Sub, "vv vav vva vava", Sizes::all, Layouts::grid, "src1 src2 dst length count", "", "vectorSum"},
-    {Root::Sub, "vc cv vac cva", Sizes::all, Layouts::grid, "src value dst length count", "", "constantSum"},
-    {Root::Mul, "mc mTc mac maTc", Sizes::all, Layouts::grid, "src value dst width height count", "",
-     "matrixScale"},
-    {Root::Mul, "vc vac", Sizes::all, Layouts::grid, "src value dst length count", "", "vectorScale"},
+     Layouts::grid, "src1 src2 dst width height count", "elementwise/matrix_sum.h", "matrixSum"},
+    {Root::Sub, "vv vav vva vava", Sizes::all, Layouts::grid, "src1 src2 dst length count",
+     "elementwise/vector_sum.h", "vectorSum"},
+    {Root::Sub, "vc cv vac cva", Sizes::all, Layouts::grid, "src value dst length count",
+     "elementwise/vector_sum.h", "constantSum"},
+    {Root::Mul, "mc mTc mac maTc", Sizes::all, Layouts::grid, "src value dst width height count",
+     "products/scale.h", "matrixScale"},
+    {Root::Mul, "vc vac", Sizes::all, Layouts::grid, "src value dst length count", "products/scale.h",
+     "vectorScale"},
     {Root::Mul, "mv mTv mav maTv mva mTva mava maTva", Sizes::all, Layouts::grid,
      "src1 src1Width src1Height src2 src2Length dst count", "products/matrix_vector.h", "matrixVector"},
     {Root::Mul, "mm mTm mmT mTmT mam maTm mamT maTmT mma mTma mmaT mTmaT mama maTma mamaT maTmaT", Sizes::all,
      Layouts::grid, "src1 src1Width src1Height src2 src2Width src2Height dst count",
      "products/matrix_matrix.h", "matrixMatrix"},
-    {Root::Saxpy, "vv vav vva vava", Sizes::all, Layouts::grid, "src1 value src2 dst length count", "",
-     "saxpy"},
-    {Root::LComb, "vv vav vava", Sizes::all, Layouts::grid, "src1 value1 src2 value2 dst length count", "",
-     "lcomb"},
+    {Root::Saxpy, "vv vav vva vava", Sizes::all, Layouts::grid, "src1 value src2 dst length count",
+     "combine/saxpy.h", "saxpy"},
+    {Root::LComb, "vv vav vava", Sizes::all, Layouts::grid, "src1 value1 src2 value2 dst length count",
+     "combine/lcomb.h", "lcomb"},
     {Root::Gaxpy, "v va", Sizes::all, Layouts::grid, "src1 src2 src3 dst width height count",
      "combine/gaxpy.h", "gaxpy"},
-    {Root::DotProduct, "vv vav vava", Sizes::all, Layouts::grid, "src1 src2 result length count", "",
-     "dotProduct"},
-    {Root::CrossProduct, "vv vav vva vava", Sizes::onlyThree, Layouts::grid, "src1 src2 dst count", "",
-     "crossProduct"},
-    {Root::L2Norm, "v va", Sizes::all, Layouts::grid, "src result length count", "", "l2Norm"},
-    {Root::Trace, "m ma", Sizes::all, Layouts::grid, "src order result count", "", "trace"},
-    {Root::FrobNorm, "m ma", Sizes::all, Layouts::grid, "src width height result count", "", "frobNorm"},
-    {Root::Det, "m ma", Sizes::general, Layouts::grid, "src order scratch result count", "", "det"},
-    {Root::Det, "m ma", Sizes::fixed, Layouts::grid, "src result count", "", "detSmall"},
-    {Root::Invert, "m ma", Sizes::general, Layouts::grid, "src order scratch dst count", "", "invert"},
-    {Root::Invert, "m ma", Sizes::fixed, Layouts::grid, "src dst count", "", "invertSmall"},
-    {Root::LUDecomp, "m ma", Sizes::all, Layouts::grid, "src rowIndexOut dst order count", "", "luDecomp"},
-    {Root::LUBackSubst, "mv mva mava", Sizes::all, Layouts::grid, "src1 rowIndexIn src2 dst order count", "",
-     "luBackSubst"},
-    {Root::QRDecomp, "m ma", Sizes::all, Layouts::grid, "src buffer dst width height count", "", "qrDecomp"},
+    {Root::DotProduct, "vv vav vava", Sizes::all, Layouts::grid, "src1 src2 result length count",
+     "reduce/dot_product.h", "dotProduct"},
+    {Root::CrossProduct, "vv vav vva vava", Sizes::onlyThree, Layouts::grid, "src1 src2 dst count",
+     "reduce/cross_product.h", "crossProduct"},
+    {Root::L2Norm, "v va", Sizes::all, Layouts::grid, "src result length count", "reduce/l2_norm.h",
+     "l2Norm"},
+    {Root::Trace, "m ma", Sizes::all, Layouts::grid, "src order result count", "reduce/trace.h", "trace"},
+    {Root::FrobNorm, "m ma", Sizes::all, Layouts::grid, "src width height result count", "reduce/frob_norm.h",
+     "frobNorm"},
+    {Root::Det, "m ma", Sizes::fixed, Layouts::grid, "src result count", "detinv/det_small.h", "detSmall"},
+    {Root::Det, "m ma", Sizes::fixed, Layouts::grid, "src result count", "detinv/det_small.h", "detSmall"},
+    {Root::Invert, "m ma", Sizes::fixed, Layouts::grid, "src dst count", "detinv/invert_small.h",
+     "invertSmall"},
+    {Root::Invert, "m ma", Sizes::fixed, Layouts::grid, "src dst count", "detinv/invert_small.h",
+     "invertSmall"},
+    {Root::LUDecomp, "m ma", Sizes::all, Layouts::grid, "src rowIndexOut dst order count", "lu/decompose.h",
+     "luDecomp"},
+    {Root::LUBackSubst, "mv mva mava", Sizes::all, Layouts::grid, "src1 rowIndexIn src2 dst order count",
+     "lu/solve.h", "luBackSubst"},
+    {Root::QRDecomp, "m ma", Sizes::all, Layouts::grid, "src buffer dst width height count", "qr/decompose.h",
+     "qrDecomp"},
     {Root::QRBackSubst, "mv mva mava", Sizes::all, Layouts::grid, "src1 buffer src2 dst width height count",
-     "", "qrBackSubst"},
+     "qr/solve.h", "qrBackSubst"},
     {Root::Copy, "ma", Sizes::general, Layouts::pairs, "src dst width height count", "move/copy.h", "copy"},
     {Root::Copy, "va", Sizes::general, Layouts::pairs, "src dst length count", "move/copy.h", "copy"},
     {Root::Transpose, "m ma", Sizes::all, Layouts::grid, "src width height dst count", "move/transpose.h",
@@ -260,8 +271,7 @@ struct Member
 
     // From an exported name. The name must exist.
     template <std::size_t N>
-    consteval Member(
-        const char (&name)[N]); // NOLINT(google-explicit-constructor): members are spelled by name
+    consteval Member(const char (&name)[N]);
 
     bool operator==(const Member&) const = default;
 
@@ -455,6 +465,8 @@ consteval Member::Member(const char (&name)[N])
             thisNameIsNotInTheGrammar();
     }
     if (root == Root::Copy || root == Root::LoadIdentity) {
+        if (rest.size() != (root == Root::Copy ? 2 : 1))
+            thisNameIsNotInTheGrammar();
         layout = layoutOf(rest[0]);
         dstLayout = layoutOf(rest.back());
     } else {

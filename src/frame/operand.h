@@ -39,17 +39,14 @@ using Element = typename ElementOf<m.type>::type;
 template <unsigned n>
 struct Extent
 {
-    constexpr operator std::uint32_t() const
-    {
-        return n;
-    } // NOLINT(google-explicit-constructor): it is a number
+    constexpr operator std::uint32_t() const { return n; }
 };
 template <>
 struct Extent<0>
 {
     std::uint32_t n;
-    Extent(std::uint32_t words) : n(words) {}    // NOLINT(google-explicit-constructor): it is a number
-    operator std::uint32_t() const { return n; } // NOLINT(google-explicit-constructor)
+    Extent(std::uint32_t words) : n(words) {}
+    operator std::uint32_t() const { return n; }
 };
 
 // The size arguments of a member, and its number of objects.
@@ -120,12 +117,14 @@ struct Operand
     using Value = T;
     static constexpr bool table = isTable(layout);
     static constexpr bool list = isList(layout) && code.array;
+    static constexpr bool single = !code.array;
+    static constexpr bool transposed = code.transposed;
 
     Address p;
     Displacement shift, stride0, stride1, stride2;
 
     TENK_INLINE
-    Operand(const Arguments& a) // NOLINT(google-explicit-constructor): entry points pass lists of arguments
+    Operand(const Arguments& a)
         : p(reinterpret_cast<Address>(a.p)),
           shift(displacement(a.shift)),
           stride0(displacement(a.stride0)),

@@ -1,0 +1,52 @@
+#include "manners.h"
+
+#include "add_sub_matrix.h"
+
+namespace model {
+
+Manners mannersOf(const Name& name)
+{
+    Manners manners;
+    switch (name.root) {
+    case Root::Add:
+    case Root::Sub:
+        // With disagreeing alignments any number may stand in for an element.
+        manners.flagsOpen = name.codes[0].kind == 'm' && arrangesSingleByItsAlignment(name);
+        break;
+    case Root::LoadIdentity:
+        manners.signedSizes = true;
+        manners.loosePercent = 60; // short strides are what this family looks at
+        manners.moreRounds = 8;
+        break;
+    case Root::Copy:
+    case Root::Extract:
+        manners.moreRounds = 4;
+        break;
+    case Root::Det:
+    case Root::LUDecomp:
+    case Root::LUBackSubst:
+        manners.largestSize = 8;
+        manners.largeSizes = false;
+        manners.plainPercent = 60;
+        break;
+    case Root::Invert:
+        // Order 1 of the general members has no defined result.
+        manners.smallestSize = 2;
+        manners.largestSize = 6;
+        manners.largeSizes = false;
+        manners.plainPercent = 60;
+        break;
+    case Root::QRDecomp:
+    case Root::QRBackSubst:
+        manners.largestSize = 8;
+        manners.largeSizes = false;
+        manners.tall = true;
+        manners.plainPercent = 60;
+        break;
+    default:
+        break;
+    }
+    return manners;
+}
+
+} // namespace model
