@@ -29,12 +29,17 @@ Manners mannersOf(const Name& name)
         manners.largeSizes = false;
         manners.plainPercent = 60;
         break;
+    case Root::FrobNorm:
+        // The short kernels may add the squares in any order, and those of order 3 square a number beside
+        // each row.
+        manners.flagsOpen = !name.general();
+        break;
     case Root::Invert:
-        // Order 1 of the general members has no defined result.
-        manners.smallestSize = 2;
         manners.largestSize = 6;
         manners.largeSizes = false;
         manners.plainPercent = 60;
+        // How the cofactors of the fixed orders are formed is open.
+        manners.flagsOpen = !name.general();
         break;
     case Root::QRDecomp:
     case Root::QRBackSubst:
