@@ -35,6 +35,40 @@ TENK_INLINE bool isNullElement(const View& view, std::size_t i, std::size_t j)
     return transposed ? view.isNull(j, i) : view.isNull(i, j);
 }
 
+// Rows of n adjacent elements without gaps between them, so that no row needs an address of its own.
+template <typename T, unsigned n>
+struct PackedView
+{
+    Address start;
+    static constexpr Displacement rowStep = n * sizeof(T);
+
+    TENK_INLINE Address row(std::size_t i) const { return start + i * (n * sizeof(T)); }
+    TENK_INLINE Address at(std::size_t i, std::size_t j) const { return row(i) + j * sizeof(T); }
+};
+
+// Members that look for gaps. Larger objects have arithmetic enough to hide the addresses of their rows.
+consteval bool knowsPacked(Member m)
+{
+    return m.batch() && isDense(m.layout) && (m.size == 3 || m.size == 4);
+}
+
+// Whether the rows of operands of order n have no gaps between them. A vector has one row.
+template <unsigned n, typename... O>
+TENK_INLINE bool arePacked(const O&... operands)
+{
+    return ((operands.stride1 == n * sizeof(typename O::Value)) && ...);
+}
+
+// Object k of an operand that may be known to be packed.
+template <bool packed, unsigned n, typename O>
+TENK_INLINE auto squareObject(const O& operand, std::size_t k)
+{
+    if constexpr (packed)
+        return PackedView<typename O::Value, n>{operand.object(k, n).start};
+    else
+        return operand.object(k, n);
+}
+
 // The rows of a factor of order n, from rows of adjacent elements.
 template <typename T, unsigned n, bool transposed, typename View>
 TENK_INLINE Block<T, n> loadFactor(const View& view)

@@ -65,12 +65,11 @@ TENK_INLINE void productRows(const Left& left, const Right& right, const Out& ou
 {
     constexpr unsigned n = lanes<Element<m>>;
     std::size_t j = 0;
-    for (; j + 2 * n <= width; j += 2 * n)
-        productTile<m, rows, 2 * n>(left, right, out, i, j, terms);
-    if (j + n <= width) {
+    if constexpr (rows > 1)
+        for (; j + 2 * n <= width; j += 2 * n)
+            productTile<m, rows, 2 * n>(left, right, out, i, j, terms);
+    for (; j + n <= width; j += n)
         productTile<m, rows, n>(left, right, out, i, j, terms);
-        j += n;
-    }
     for (; j < width; ++j)
         productTile<m, rows, 1>(left, right, out, i, j, terms);
 }

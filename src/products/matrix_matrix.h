@@ -139,6 +139,30 @@ TENK_INLINE void multiply(const Left& left, const Block<Element<m>, m.size>& rig
     });
 }
 
+// All objects of the members with kernels. A single right factor is read once.
+template <Member m, bool packed>
+TENK_INLINE tenkStatus multiplyAll(const Source<m, 0>& src1, const Source<m, 1>& src2,
+                                   const Destination<m>& dst, Count<m> count)
+{
+    constexpr unsigned n = m.size;
+    const auto rightOf = [&](std::size_t k)
+                             TENK_LAMBDA { return loadRight<m>(squareObject<packed, n>(src2, k)); };
+    const auto run = [&](auto right) TENK_LAMBDA -> tenkStatus {
+        for (std::size_t k = 0; k < count; ++k) {
+            if (!testsNoEntry(m) && anyNullObject(k, src1, src2, dst))
+                return tenkNullPointerError;
+            multiply<m>(squareObject<packed, n>(src1, k), right(k), squareObject<packed, n>(dst, k));
+        }
+        return tenkOk;
+    };
+    if constexpr (m.operand[1].array) {
+        return run(rightOf);
+    } else {
+        const auto right = rightOf(0);
+        return run([&](std::size_t) TENK_LAMBDA { return right; });
+    }
+}
+
 // ---------------------------------------------------------------------------------------------------------------
 // The family
 // ---------------------------------------------------------------------------------------------------------------
@@ -170,35 +194,27 @@ TENK_INLINE tenkStatus matrixMatrix(Source<m, 0> src1, Size<m> src1Width, Size<m
             src1.stride0 = 0;
     }
 
-    const std::size_t width1 = transposed1 ? src1Height : src1Width; // row lengths in tables
-    const std::size_t width2 = transposed2 ? src2Height : src2Width;
-    if constexpr (isKernel(m) && !m.operand[1].array) {
+    if constexpr (isKernel(m)) {
         if (count == 0)
             return tenkOk;
-        const auto right = loadRight<m>(src2.object(0, width2));
-        for (std::size_t k = 0; k < count; ++k) {
-            if (!testsNoEntry(m) && anyNullObject(k, src1, dst))
-                return tenkNullPointerError;
-            multiply<m>(src1.object(k, width1), right, dst.object(k, src2Width));
-        }
+        if constexpr (knowsPacked(m))
+            if (arePacked<m.size>(src1, src2, dst))
+                return multiplyAll<m, true>(src1, src2, dst, count);
+        return multiplyAll<m, false>(src1, src2, dst, count);
     } else {
+        const std::size_t width1 = transposed1 ? src1Height : src1Width; // row lengths in tables
+        const std::size_t width2 = transposed2 ? src2Height : src2Width;
         for (std::size_t k = 0; k < count; ++k) {
             if (anyNullObject(k, src1, src2, dst))
                 return tenkNullPointerError;
-            const auto left = src1.object(k, width1);
-            const auto right = src2.object(k, width2);
-            const auto out = dst.object(k, src2Width);
-            if constexpr (isKernel(m)) {
-                multiply<m>(left, loadRight<m>(right), out);
-            } else {
-                const tenkStatus status =
-                    generalProduct<m>(left, right, out, src1Height, src2Width, src2Height);
-                if (status != tenkOk)
-                    return status;
-            }
+            const tenkStatus status =
+                generalProduct<m>(src1.object(k, width1), src2.object(k, width2), dst.object(k, src2Width),
+                                  src1Height, src2Width, src2Height);
+            if (status != tenkOk)
+                return status;
         }
+        return tenkOk;
     }
-    return tenkOk;
 }
 
 } // namespace tenk

@@ -73,7 +73,6 @@ TENK_INLINE tenkStatus matrixVector(Source<m, 0> src1, Size<m> src1Width, Size<m
     if (count == 0)
         return tenkOk;
 
-    constexpr bool kernel = !m.general() && isDense(m.layout);
     const std::size_t rowLength = transposed ? src1Height : src1Width; // in tables
     const auto run = [&](auto product) TENK_LAMBDA -> tenkStatus {
         for (std::size_t k = 0; k < count; ++k) {
@@ -84,33 +83,45 @@ TENK_INLINE tenkStatus matrixVector(Source<m, 0> src1, Size<m> src1Width, Size<m
         }
         return tenkOk;
     };
-    if constexpr (kernel) {
-        using R = Row<Element<m>, m.size>;
-        if constexpr (!m.operand[0].array) {
-            const auto columns = loadColumns<m>(src1.object(0, rowLength));
-            return run([&](std::size_t k) TENK_LAMBDA -> tenkStatus {
-                const R vector = R::load(src2.object(k, src2Length).row(0));
-                productOfColumns<m>(columns, vector).store(dst.object(k, src1Height).row(0));
-                return tenkOk;
-            });
-        } else if constexpr (!m.operand[1].array) {
-            const R vector = R::load(src2.object(0, src2Length).row(0));
-            return run([&](std::size_t k) TENK_LAMBDA -> tenkStatus {
-                productOfStored<m>(src1.object(k, rowLength), vector).store(dst.object(k, src1Height).row(0));
-                return tenkOk;
-            });
-        } else {
-            return run([&](std::size_t k) TENK_LAMBDA -> tenkStatus {
-                const R vector = R::load(src2.object(k, src2Length).row(0));
-                productOfStored<m>(src1.object(k, rowLength), vector).store(dst.object(k, src1Height).row(0));
-                return tenkOk;
-            });
-        }
-    } else {
+    if constexpr (m.general() || !isDense(m.layout)) {
         return run([&](std::size_t k) TENK_LAMBDA -> tenkStatus {
             return generalVectorProduct<m>(src1.object(k, rowLength), src2.object(k, src2Length),
                                            dst.object(k, src1Height), src1Height, src1Width);
         });
+    } else {
+        constexpr unsigned n = m.size;
+        using R = Row<Element<m>, n>;
+        const auto vectorOf = [&](std::size_t k) TENK_LAMBDA { return R::load(src2.object(k, n).row(0)); };
+        const auto write = [&](std::size_t k, const R& row) TENK_LAMBDA -> tenkStatus {
+            row.store(dst.object(k, n).row(0));
+            return tenkOk;
+        };
+        const auto runArrayOfMatrices = [&](auto packed) TENK_LAMBDA -> tenkStatus {
+            const auto matrixOf = [&](std::size_t k) TENK_LAMBDA { return squareObject<packed, n>(src1, k); };
+            if constexpr (m.operand[1].array) {
+                return run([&](std::size_t k) TENK_LAMBDA -> tenkStatus {
+                    return write(k, productOfStored<m>(matrixOf(k), vectorOf(k)));
+                });
+            } else {
+                const R vector = vectorOf(0);
+                return run([&](std::size_t k) TENK_LAMBDA -> tenkStatus {
+                    return write(k, productOfStored<m>(matrixOf(k), vector));
+                });
+            }
+        };
+        if constexpr (m.operand[0].array) {
+            if constexpr (knowsPacked(m))
+                if (arePacked<n>(src1))
+                    return runArrayOfMatrices(std::true_type());
+            return runArrayOfMatrices(std::false_type());
+        } else if constexpr (m.operand[1].array) {
+            const auto columns = loadColumns<m>(src1.object(0, n));
+            return run([&](std::size_t k) TENK_LAMBDA -> tenkStatus {
+                return write(k, productOfColumns<m>(columns, vectorOf(k)));
+            });
+        } else {
+            return write(0, productOfStored<m>(src1.object(0, n), vectorOf(0)));
+        }
     }
 }
 

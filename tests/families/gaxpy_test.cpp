@@ -1,5 +1,5 @@
 // Gaxpy.
-#include "objects.h"
+#include "product_operands.h"
 #include "tenk/gaxpy.h"
 #include "tenk/mul.h"
 

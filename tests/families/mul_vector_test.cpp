@@ -1,5 +1,5 @@
 // Matrix by vector.
-#include "objects.h"
+#include "product_operands.h"
 #include "tenk/mul.h"
 
 using namespace objects;
