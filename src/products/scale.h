@@ -16,11 +16,11 @@ consteval bool transposesInPlace(Member m)
 // Where objects that are alike overlap: the bytes from the lowest to the highest of an object's elements,
 // from its start.
 template <unsigned n, typename T>
-struct Span
+struct ObjectSpan
 {
     Displacement low, high;
 
-    TENK_INLINE Span(Displacement rowStep)
+    TENK_INLINE ObjectSpan(Displacement rowStep)
         : low(rowStep < 0 ? (n - 1) * rowStep : 0),
           high((rowStep < 0 ? 0 : (n - 1) * rowStep) + n * sizeof(T))
     {
@@ -32,7 +32,7 @@ TENK_INLINE tenkStatus scaleTurned(F f, const Source<m>& src, const Destination<
 {
     constexpr unsigned n = m.size;
     using T = Element<m>;
-    const Span<n, T> read(src.stride1), written(dst.stride1);
+    const ObjectSpan<n, T> read(src.stride1), written(dst.stride1);
     for (std::size_t k = 0; k < count; ++k) {
         if (anyNullObject(k, src, dst))
             return tenkNullPointerError;
