@@ -1,12 +1,12 @@
-// What the element-wise families share: dst(i, j) = f(a(i, j), b(i, j)) over the objects of a member, for one source or
-// two, once its arguments have been tested. A vector is a matrix of one row.
+// What the element-wise families share: dst(i, j) = f(a(i, j), b(i, j)) over the objects of a member, for one
+// source or two, once its arguments have been tested. A vector is a matrix of one row.
 //
 //   plainObjects   element by element through the addresses of any layout
 //   rowObjects     general sizes with adjacent elements, row by row
 //   packedObjects  fixed sizes with adjacent elements, whole objects in vectors
 //
-// Objects come one after the other. General members read a single operand again for each object and keep the order of
-// the plain loop, whatever overlaps; members of fixed size read it once, before the first object.
+// Objects come one after the other. General members read a single operand again for each object and keep the
+// order of the plain loop, whatever overlaps; members of fixed size read it once, before the first object.
 //
 // f is called with one element, or one vector of elements, of each source.
 #pragma once
@@ -18,7 +18,8 @@ namespace tenk {
 
 // An object as the formula sees it: a transposed source is read through exchanged indices.
 template <typename V, bool isTurned>
-struct Seen {
+struct Seen
+{
     static constexpr bool turned = isTurned;
     V view;
 
@@ -41,7 +42,7 @@ TENK_INLINE auto seen(const S& src, std::size_t k, std::size_t width, std::size_
 
 // Whether a member reads this source once and keeps it.
 template <Member m, typename S>
-inline constexpr bool isKept = S::single && m.batch() && !m.general();
+inline constexpr bool isKept = S::single&& m.batch() && !m.general();
 
 // Rows of a fixed size.
 template <Member m>
@@ -51,10 +52,11 @@ inline constexpr unsigned fixedRows = m.destination().kind == 'v' ? 1 : m.size;
 // Element by element
 // ---------------------------------------------------------------------------------------------------------------
 
-// Without an array, entries of tables are tested as they are reached. Both tables are tested at the place of the
-// result: of a transposed source that is not the entry that is used.
+// Without an array, entries of tables are tested as they are reached. Both tables are tested at the place of
+// the result: of a transposed source that is not the entry that is used.
 template <Member m, typename F, typename To, typename... From>
-TENK_INLINE tenkStatus plainObject(F f, std::size_t width, std::size_t height, const To& to, const From&... from)
+TENK_INLINE tenkStatus plainObject(F f, std::size_t width, std::size_t height, const To& to,
+                                   const From&... from)
 {
     using T = Element<m>;
     for (std::size_t i = 0; i < height; ++i)
@@ -69,7 +71,8 @@ TENK_INLINE tenkStatus plainObject(F f, std::size_t width, std::size_t height, c
 
 // A single source, copied from its memory.
 template <typename T, unsigned rows, unsigned columns, bool isTransposed>
-struct Copied {
+struct Copied
+{
     static constexpr bool list = false;
     static constexpr bool transposed = isTransposed;
     T element[rows * columns];
@@ -98,8 +101,8 @@ TENK_INLINE auto copied(const S& src)
 }
 
 template <Member m, typename F, typename... S>
-TENK_INLINE tenkStatus plainLoop(F f, Destination<m> dst, std::size_t width, std::size_t height, std::size_t count,
-                                 const S&... src)
+TENK_INLINE tenkStatus plainLoop(F f, Destination<m> dst, std::size_t width, std::size_t height,
+                                 std::size_t count, const S&... src)
 {
     for (std::size_t k = 0; k < count; ++k) {
         if (anyNullObject(k, src..., dst))
@@ -113,8 +116,8 @@ TENK_INLINE tenkStatus plainLoop(F f, Destination<m> dst, std::size_t width, std
 }
 
 template <Member m, typename F, typename... S>
-TENK_INLINE tenkStatus plainObjects(F f, Destination<m> dst, std::size_t width, std::size_t height, std::size_t count,
-                                    const S&... src)
+TENK_INLINE tenkStatus plainObjects(F f, Destination<m> dst, std::size_t width, std::size_t height,
+                                    std::size_t count, const S&... src)
 {
     return plainLoop<m>(f, dst, width, height, count, copied<m>(src)...);
 }
@@ -132,8 +135,8 @@ TENK_INLINE bool gapless(std::size_t width, const O&... operands)
 }
 
 template <Member m, typename F, typename... S>
-TENK_INLINE tenkStatus rowObjects(F f, Destination<m> dst, std::size_t width, std::size_t height, std::size_t count,
-                                  const S&... src)
+TENK_INLINE tenkStatus rowObjects(F f, Destination<m> dst, std::size_t width, std::size_t height,
+                                  std::size_t count, const S&... src)
 {
     if (m.destination().kind == 'm' && gapless(width, dst, src...)) {
         width *= height;
@@ -157,7 +160,8 @@ TENK_INLINE tenkStatus rowObjects(F f, Destination<m> dst, std::size_t width, st
 
 // A single source in vectors: turned already, unless the result is.
 template <typename T, unsigned rows, unsigned columns, bool isTurned>
-struct Held {
+struct Held
+{
     static constexpr bool list = false;
     static constexpr bool turned = isTurned;
     Block<T, rows, columns> block;
@@ -258,7 +262,8 @@ TENK_INLINE tenkStatus packedLoop(F f, Destination<m> dst, std::size_t count, co
 template <Member m, unsigned rows, unsigned columns, typename F, typename... S>
 TENK_INLINE tenkStatus packedObjects(F f, Destination<m> dst, std::size_t count, const S&... src)
 {
-    return packedLoop<m, rows, columns>(f, dst, count, held<m, rows, columns, (S::transposed && ...)>(src)...);
+    return packedLoop<m, rows, columns>(f, dst, count,
+                                        held<m, rows, columns, (S::transposed && ...)>(src)...);
 }
 
 // Objects without gaps between their rows are one long row each, and arrays of them without gaps are one.
@@ -294,7 +299,8 @@ TENK_INLINE auto sum()
 }
 
 template <Member m, typename F, typename H, typename... S>
-TENK_INLINE tenkStatus elementwise(F f, Destination<m> dst, Size<m> width, H height, Count<m> count, const S&... src)
+TENK_INLINE tenkStatus elementwise(F f, Destination<m> dst, Size<m> width, H height, Count<m> count,
+                                   const S&... src)
 {
     if constexpr (!isDense(m.layout) || (m.general() && (S::transposed || ...))) {
         return plainObjects<m>(f, dst, width, height, count, src...);

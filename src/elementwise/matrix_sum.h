@@ -1,5 +1,6 @@
-// Sums and differences of two matrices: dst(i, j) = a(i, j) + b(i, j) or a(i, j) - b(i, j), one rounding per element, in
-// the type of the elements. Either may be read transposed; `width` and `height` are the shape of the result.
+// Sums and differences of two matrices: dst(i, j) = a(i, j) + b(i, j) or a(i, j) - b(i, j), one rounding per
+// element, in the type of the elements. Either may be read transposed; `width` and `height` are the shape of
+// the result.
 #pragma once
 
 #include "elementwise/matrix_sum_exceptions.h"
@@ -7,8 +8,8 @@
 namespace tenk {
 
 template <Member m>
-TENK_INLINE tenkStatus matrixSum(Source<m> src1, Source<m, 1> src2, Destination<m> dst, Size<m> width, Size<m> height,
-                                 Count<m> count)
+TENK_INLINE tenkStatus matrixSum(Source<m> src1, Source<m, 1> src2, Destination<m> dst, Size<m> width,
+                                 Size<m> height, Count<m> count)
 {
     if (anyNull(src1, src2, dst))
         return tenkNullPointerError;

@@ -1,15 +1,15 @@
-// The members of the sums of matrices that stand apart, and how each computes. All others are the plain formula of
-// matrix_sum.h; the two roots are no mirror images here.
+// The members of the sums of matrices that stand apart, and how each computes. All others are the plain
+// formula of matrix_sum.h; the two roots are no mirror images here.
 #pragma once
 
 #include "elementwise/elementwise.h"
 
 namespace tenk {
 
-// The next object is read before the results of this one are stored, so the first object is read, and at last written,
-// without a look at `count`: none counts as one. Lists are tested as far ahead: first entry 0 of the source and the last
-// one of the destination (the entry before the list, if `count` is 0), then entry k of the source together with k - 1
-// of the destination.
+// The next object is read before the results of this one are stored, so the first object is read, and at last
+// written, without a look at `count`: none counts as one. Lists are tested as far ahead: first entry 0 of the
+// source and the last one of the destination (the entry before the list, if `count` is 0), then entry k of
+// the source together with k - 1 of the destination.
 consteval bool runsAhead(Member m)
 {
     return m == "tenkAdd_mam_32f_3x3" || m == "tenkAdd_mam_32f_3x3_L" || m == "tenkSub_mam_32f_3x3" ||
@@ -30,8 +30,8 @@ consteval bool stepsElementsOfSrc2BySrc1(Member m)
     return m == "tenkSub_mTm_64f_6x6_S2";
 }
 
-// The last column of src1 is read in steps of src2Stride1: a(i, 4) is 32 bytes behind the start of the object and i of
-// these steps.
+// The last column of src1 is read in steps of src2Stride1: a(i, 4) is 32 bytes behind the start of the object
+// and i of these steps.
 consteval bool stepsLastColumnBySrc2(Member m)
 {
     return m == "tenkAdd_mam_64f_5x5" || m == "tenkAdd_mam_64f_5x5_L" || m == "tenkSub_mam_64f_5x5" ||
@@ -57,8 +57,8 @@ consteval bool exchangesLastIfAligned(Member m)
     return m == "tenkSub_mTma_64f_3x3" || m == "tenkSub_mTma_64f_3x3_L";
 }
 
-// The single operand is arranged for aligned objects if it is aligned itself, else for others. An object of the other
-// sort finds its elements at the wrong places; mixedPlaces() has them.
+// The single operand is arranged for aligned objects if it is aligned itself, else for others. An object of
+// the other sort finds its elements at the wrong places; mixedPlaces() has them.
 consteval bool mixesAlignments(Member m)
 {
     return m == "tenkAdd_mam_64f_3x3_L" || m == "tenkSub_mam_64f_3x3_L" || m == "tenkSub_mma_64f_3x3_L" ||
@@ -119,7 +119,7 @@ template <Member m>
 consteval unsigned rowColumn(unsigned i, unsigned j)
 {
     constexpr unsigned scattered[6][6] = {
-        {00, 04, 020, 024, 040, 044}, {01, 05, 021, 025, 041, 045}, {02, 014, 022, 034, 042, 054},
+        {00, 04, 020, 024, 040, 044},  {01, 05, 021, 025, 041, 045},   {02, 014, 022, 034, 042, 054},
         {02, 014, 022, 034, 042, 054}, {010, 012, 030, 032, 050, 052}, {011, 013, 031, 033, 051, 053},
     };
     if (scattersElements(m))
@@ -153,7 +153,8 @@ TENK_INLINE tenkStatus sumPermuted(const Source<m>& src1, const Source<m, 1>& sr
 // ---------------------------------------------------------------------------------------------------------------
 
 // Rows of five whose last element has a step of its own.
-struct LastColumnView {
+struct LastColumnView
+{
     DenseView<double> view;
     Displacement lastStep;
 };
@@ -169,8 +170,8 @@ TENK_INLINE Row<double, 5> rowOf5(const LastColumnView& from, std::size_t i)
 }
 
 template <Member m>
-TENK_INLINE tenkStatus sumWithLastColumn(const Source<m>& src1, const Source<m, 1>& src2, const Destination<m>& dst,
-                                         std::size_t count)
+TENK_INLINE tenkStatus sumWithLastColumn(const Source<m>& src1, const Source<m, 1>& src2,
+                                         const Destination<m>& dst, std::size_t count)
 {
     constexpr unsigned n = m.size;
     if (src1.stride1 == src2.stride1)
@@ -201,9 +202,11 @@ TENK_INLINE bool aligned(A... addressesAndSteps)
     return ((static_cast<Address>(addressesAndSteps) | ...) & 15) == 0;
 }
 
-// Where an object of the other sort than the single operand finds the elements of it: for each place of the result, row
-// by row, the element as stored, row by row. 9 stands for +0; at the places with a 10 any value will do.
-struct Places {
+// Where an object of the other sort than the single operand finds the elements of it: for each place of the
+// result, row by row, the element as stored, row by row. 9 stands for +0; at the places with a 10 any value
+// will do.
+struct Places
+{
     unsigned char of[9];
 };
 template <Member m>
@@ -222,7 +225,8 @@ consteval Places mixedPlaces(bool singleIsAligned)
 }
 
 // The single operand of one call: where it belongs, and where objects of the other sort find it.
-struct TwoArrangements {
+struct TwoArrangements
+{
     Block<double, 3> right, mixed;
 };
 
@@ -239,19 +243,21 @@ TENK_INLINE Block<double, 3> mixedBlock(const DenseView<double>& single)
 }
 
 template <Member m>
-TENK_INLINE tenkStatus sumByAlignment(const Source<m>& src1, const Source<m, 1>& src2, const Destination<m>& dst,
-                                      std::size_t count)
+TENK_INLINE tenkStatus sumByAlignment(const Source<m>& src1, const Source<m, 1>& src2,
+                                      const Destination<m>& dst, std::size_t count)
 {
     using B = Block<double, 3>;
     constexpr unsigned n = 3;
     constexpr bool arrayFirst = m.operand[0].array;
-    const auto pick = [&]() TENK_LAMBDA -> const auto& {
+    const auto pick = [&]() TENK_LAMBDA -> const auto&
+    {
         if constexpr (arrayFirst)
             return src1;
         else
             return src2;
     };
-    const auto pickSingle = [&]() TENK_LAMBDA -> const auto& {
+    const auto pickSingle = [&]() TENK_LAMBDA -> const auto&
+    {
         if constexpr (arrayFirst)
             return src2;
         else
@@ -266,8 +272,8 @@ TENK_INLINE tenkStatus sumByAlignment(const Source<m>& src1, const Source<m, 1>&
 
     const auto stored = single.object(0, n);
     const bool singleIsAligned = aligned(single.p, single.stride1);
-    const bool allAligned = aligned(src1.p, src1.stride0, src1.stride1, src2.p, src2.stride0, src2.stride1, dst.p,
-                                    dst.stride0, dst.stride1);
+    const bool allAligned = aligned(src1.p, src1.stride0, src1.stride1, src2.p, src2.stride0, src2.stride1,
+                                    dst.p, dst.stride0, dst.stride1);
     B right = B::load(stored), mixed = right;
     if (std::remove_cvref_t<decltype(single)>::transposed)
         right = transpose(right);
@@ -279,7 +285,8 @@ TENK_INLINE tenkStatus sumByAlignment(const Source<m>& src1, const Source<m, 1>&
             return tenkNullPointerError;
         const auto from = array.object(k, n);
         const auto to = dst.object(k, n);
-        const bool objectIsAligned = isList(m.layout) ? aligned(from.start, to.start, array.stride1, dst.stride1) : allAligned;
+        const bool objectIsAligned =
+            isList(m.layout) ? aligned(from.start, to.start, array.stride1, dst.stride1) : allAligned;
         const B& held = mixesAlignments(m) && objectIsAligned != singleIsAligned ? mixed : right;
         const B a = arrayFirst ? B::load(from) : held;
         const B b = arrayFirst ? held : B::load(from);

@@ -1,5 +1,5 @@
-// Sums and differences of two vectors, and of a vector and a constant c: dst(j) = a(j) + b(j), a(j) - b(j), a(j) + c,
-// a(j) - c or c - a(j), one rounding per element, in the type of the elements.
+// Sums and differences of two vectors, and of a vector and a constant c: dst(j) = a(j) + b(j), a(j) - b(j),
+// a(j) + c, a(j) - c or c - a(j), one rounding per element, in the type of the elements.
 #pragma once
 
 #include "elementwise/elementwise.h"
@@ -7,7 +7,8 @@
 namespace tenk {
 
 template <Member m>
-TENK_INLINE tenkStatus vectorSum(Source<m> src1, Source<m, 1> src2, Destination<m> dst, Size<m> length, Count<m> count)
+TENK_INLINE tenkStatus vectorSum(Source<m> src1, Source<m, 1> src2, Destination<m> dst, Size<m> length,
+                                 Count<m> count)
 {
     if (anyNull(src1, src2, dst))
         return tenkNullPointerError;
@@ -33,7 +34,8 @@ TENK_INLINE auto sumWith(Element<m> c)
 }
 
 template <Member m>
-TENK_INLINE tenkStatus constantSum(Source<m> src, Element<m> value, Destination<m> dst, Size<m> length, Count<m> count)
+TENK_INLINE tenkStatus constantSum(Source<m> src, Element<m> value, Destination<m> dst, Size<m> length,
+                                   Count<m> count)
 {
     if (anyNull(src, dst))
         return tenkNullPointerError;

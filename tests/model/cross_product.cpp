@@ -55,8 +55,6 @@ struct CrossProduct
             return nullPointerError;
         if (call.count() == 0)
             return ok;
-        if (!readsFirst(name))
-            memory.setOrder(Memory::Order::open);
         // What is single is read once for all objects.
         std::array<T, 3> a{};
         std::array<T, 3> b{};
@@ -65,11 +63,12 @@ struct CrossProduct
         if (!src2.form().array)
             b = elements<T>(memory, src2, 0);
         for (std::uint32_t k = 0; k < call.count(); ++k) {
-            memory.nextObject();
             if (fourAtATime(name) && k % 4 == 0 && call.count() - k >= 4)
                 checkStep(memory, k, {&src1, &src2}, dst);
             if (nullInLists(memory, k, {&src1, &src2, &dst}))
                 return nullPointerError;
+            if (!readsFirst(name))
+                checkObject(memory, k, {&src1, &src2}, dst);
             if (src1.form().array)
                 a = elements<T>(memory, src1, k);
             if (src2.form().array)
@@ -79,6 +78,19 @@ struct CrossProduct
             memory.store(dst.element(memory, k, 2), component(a[0], b[1], a[1], b[0]));
         }
         return ok;
+    }
+
+    // Members that may store a component before they read for the next. A single operand of an array function
+    // has been read before.
+    static void checkObject(Memory& memory, std::uint32_t k, std::initializer_list<const Operand*> sources,
+                            const Operand& dst)
+    {
+        const Ground result = groundOf(memory, dst, k);
+        undecidedIf(result.meetsItself(), "a result overlaps itself");
+        for (const Operand* source : sources) {
+            if (source->form().array || !dst.form().array)
+                undecidedIf(result.meets(groundOf(memory, *source, k)), "a result overlaps its operands");
+        }
     }
 
     // A result that lies on an operand of a later object of the same step may be stored before or after that
