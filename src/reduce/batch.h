@@ -12,30 +12,74 @@ TENK_INLINE Address resultAddress(T* dst, std::size_t k)
     return reinterpret_cast<Address>(dst) + k * sizeof(T);
 }
 
-// Results of `step` objects at a time, then of the rest one by one. The list entries of a step are tested
-// together before any of its objects is read, those of the rest each before its object, and results are
-// written when all elements of the step or object have been read.
+// How the objects of a batch are taken.
+struct BatchSteps
+{
+    unsigned objects; // results in a vector, worked out side by side
+    // Tests of list entries and writes: of a whole step together, or as if object by object. In the latter
+    // case a step is split up when somebody could tell.
+    bool together;
+};
+
+// Results of `steps.objects` objects at a time, then of the rest one by one. An object or a step is read as a
+// whole before its results are written, and the list entries of an object are tested before it is read.
 //
 //   isNull(k)     an entry of object k is null
-//   several(k)    the results of objects k to k + step - 1, a vector
+//   isApart(k)    the results of the step at k lie on none of its objects, nor on their list entries
+//   several(k)    the results of the step at k, a vector
 //   one(k)        the result of object k
+template <BatchSteps steps, typename T, typename Null, typename Apart, typename Several, typename One>
+TENK_INLINE tenkStatus inSteps(T* dst, std::size_t count, Null isNull, Apart isApart, Several several,
+                               One one)
+{
+    std::size_t k = 0;
+    const auto isSplit = [&] TENK_LAMBDA {
+        bool null = false;
+        each<steps.objects>([&](auto n) TENK_LAMBDA { null = null || isNull(k + n); });
+        return null || !isApart(k);
+    };
+    while (k < count) {
+        std::size_t end = count;
+        if constexpr (steps.objects > 1) {
+            for (; count - k >= steps.objects; k += steps.objects) {
+                if constexpr (steps.together) {
+                    for (unsigned n = 0; n < steps.objects; ++n)
+                        if (isNull(k + n))
+                            return tenkNullPointerError;
+                } else if (isSplit()) {
+                    end = k + steps.objects;
+                    break;
+                }
+                store<Vector<T>>(resultAddress(dst, k), several(k));
+            }
+        }
+        for (; k < end; ++k) {
+            if (isNull(k))
+                return tenkNullPointerError;
+            store<T>(resultAddress(dst, k), one(k));
+        }
+    }
+    return tenkOk;
+}
+
+// The same for steps together, or for no steps.
 template <unsigned step, typename T, typename Null, typename Several, typename One>
 TENK_INLINE tenkStatus inSteps(T* dst, std::size_t count, Null isNull, Several several, One one)
 {
-    std::size_t k = 0;
-    if constexpr (step > 1)
-        for (; count - k >= step; k += step) {
-            for (unsigned n = 0; n < step; ++n)
-                if (isNull(k + n))
-                    return tenkNullPointerError;
-            store<Vector<T>>(resultAddress(dst, k), several(k));
-        }
-    for (; k < count; ++k) {
-        if (isNull(k))
-            return tenkNullPointerError;
-        store<T>(resultAddress(dst, k), one(k));
-    }
-    return tenkOk;
+    const auto isApart = [](std::size_t) TENK_LAMBDA { return true; };
+    return inSteps<BatchSteps{step, true}>(dst, count, isNull, isApart, several, one);
+}
+
+// Rows so close together that no object wraps around the end of memory.
+TENK_INLINE bool areClose(Displacement rowStep)
+{
+    return rowStep >= 0 && rowStep < (1 << 20);
+}
+
+// The runs of so many bytes at a and at b have no byte in common.
+TENK_INLINE bool areApart(Address a, std::size_t aBytes, Address b, std::size_t bBytes)
+{
+    return b - a >= aBytes && a - b >= bBytes;
 }
 
 } // namespace tenk
