@@ -7,7 +7,7 @@
 namespace tenk {
 
 template <typename T>
-TENK_INLINE Address resultAddress(T* dst, std::size_t k)
+TENK_INLINE Address resultAddress(const T* dst, std::size_t k)
 {
     return reinterpret_cast<Address>(dst) + k * sizeof(T);
 }
@@ -70,16 +70,56 @@ TENK_INLINE tenkStatus inSteps(T* dst, std::size_t count, Null isNull, Several s
     return inSteps<BatchSteps{step, true}>(dst, count, isNull, isApart, several, one);
 }
 
-// Rows so close together that no object wraps around the end of memory.
-TENK_INLINE bool areClose(Displacement rowStep)
-{
-    return rowStep >= 0 && rowStep < (1 << 20);
-}
+// ---------------------------------------------------------------------------------------------------------------
+// Whether anybody can tell that results are written a step at a time
+// ---------------------------------------------------------------------------------------------------------------
 
 // The runs of so many bytes at a and at b have no byte in common.
 TENK_INLINE bool areApart(Address a, std::size_t aBytes, Address b, std::size_t bBytes)
 {
     return b - a >= aBytes && a - b >= bBytes;
 }
+
+// Whether the results of a batch lie apart from the objects of a source, which have `rows` dense rows of n
+// elements. It is found out once for objects that are a step apart, and for each step of results for objects
+// in a list. The answer is no where an object or the batch goes backwards or might wrap around the end of
+// memory.
+template <unsigned rows, unsigned n, unsigned step, typename O>
+struct Apart
+{
+    using T = typename O::Value;
+    static constexpr std::uint64_t most = std::uint64_t{1} << 30;
+
+    const O& source;
+    Address results;
+    std::size_t bytes; // of an object
+    bool known;
+
+    TENK_INLINE Apart(const O& o, const T* dst, std::size_t count) : source(o), results(resultAddress(dst, 0))
+    {
+        const std::uint64_t object =
+            static_cast<std::uint64_t>(o.stride1) * (rows - 1) + std::uint64_t{n * sizeof(T)};
+        const std::uint64_t all = object + static_cast<std::uint64_t>(o.stride0) * (count - 1);
+        bytes = static_cast<std::size_t>(object);
+        known = o.stride1 >= 0 && o.stride0 >= 0 && count != 0 && object < most && count * sizeof(T) < most;
+        if constexpr (!O::list)
+            known = known && all < most &&
+                    areApart(results, count * sizeof(T), o.p, static_cast<std::size_t>(all));
+    }
+
+    TENK_INLINE bool operator()(std::size_t k) const
+    {
+        bool apart = known;
+        if constexpr (O::list) {
+            const Address written = results + k * sizeof(T);
+            apart = apart && areApart(written, step * sizeof(T), source.p + k * sizeof(Address),
+                                      step * sizeof(Address));
+            each<step>([&](auto i) TENK_LAMBDA {
+                apart = apart && areApart(written, step * sizeof(T), source.object(k + i, n).start, bytes);
+            });
+        }
+        return apart;
+    }
+};
 
 } // namespace tenk

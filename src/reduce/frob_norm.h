@@ -41,7 +41,7 @@ consteval BatchSteps stepsOf(Member m)
         return {1, true};
     if (m.type == Type::f32)
         return {4, small};
-    return {small ? 2U : 1U, true};
+    return {2, small};
 }
 
 // Lists that are worked through in steps test no entry of the objects behind the last full step: a null entry
@@ -101,11 +101,19 @@ TENK_INLINE Vector<double> sumsAcross(const Row<double, 3> (&c)[2])
     const auto c1 = shuffle<1, 3>(c[0].vector[0], c[1].vector[0]);
     return (Vector<double>{c[0].rest, c[1].rest} + c0) + c1;
 }
-TENK_INLINE Vector<double> sumsAcross(const Row<double, 4> (&c)[2])
+template <unsigned n>
+TENK_INLINE Vector<double> sumsAcross(const Row<double, n> (&c)[2])
 {
-    const auto first = c[0].vector[0] + c[0].vector[1];
-    const auto second = c[1].vector[0] + c[1].vector[1];
-    return shuffle<0, 2>(first, second) + shuffle<1, 3>(first, second);
+    auto first = c[0].vector[0] + c[0].vector[1];
+    auto second = c[1].vector[0] + c[1].vector[1];
+    if constexpr (n == 6) {
+        first = first + c[0].vector[2];
+        second = second + c[1].vector[2];
+    }
+    const auto sums = shuffle<0, 2>(first, second) + shuffle<1, 3>(first, second);
+    if constexpr (n == 5)
+        return sums + Vector<double>{c[0].rest, c[1].rest};
+    return sums;
 }
 
 // ---------------------------------------------------------------------------------------------------------------
@@ -181,28 +189,24 @@ TENK_INLINE Vector<float> sumsByQuads(Views view)
     return sums + lasts * lasts;
 }
 
-// Arrays of 32f.
+// Arrays of 32f; gapless, if rows follow each other without a gap and objects do, too, unless they are in a
+// list.
 template <Member m, bool gapless>
 TENK_INLINE tenkStatus normsByQuads(Source<m> src, float* dst, std::size_t count)
 {
+    using S = Source<m>;
     constexpr unsigned n = m.size;
-    if constexpr (gapless)
-        src.stride1 = n * sizeof(float);
     constexpr BatchSteps steps = stepsOf(m);
+    if constexpr (gapless) {
+        src.stride1 = n * sizeof(float);
+        if constexpr (!S::list)
+            src.stride0 = n * n * sizeof(float);
+    }
     const std::size_t tested = testsRest(m) ? count : count / steps.objects * steps.objects;
     const auto view = [&](std::size_t k) TENK_LAMBDA { return src.object(k, n); };
-    const std::size_t bytes = (n - 1) * static_cast<std::size_t>(src.stride1) + n * sizeof(float);
     return inSteps<steps>(
         dst, count, [&](std::size_t k) TENK_LAMBDA { return k < tested && anyNullObject(k, src); },
-        [&](std::size_t k) TENK_LAMBDA {
-            const Address results = resultAddress(dst, k);
-            bool apart = areClose(src.stride1);
-            each<4>([&](auto i)
-                        TENK_LAMBDA { apart = apart && areApart(results, 16, view(k + i).start, bytes); });
-            if constexpr (m.layout == Layout::List)
-                apart = apart && areApart(results, 16, src.p + k * sizeof(Address), 4 * sizeof(Address));
-            return apart;
-        },
+        Apart<n, n, steps.objects, S>(src, dst, count),
         [&](std::size_t k) TENK_LAMBDA {
             return refinedRoot(
                 sumsByQuads<n, gapless>([&](std::size_t i) TENK_LAMBDA { return view(k + i); }));
@@ -218,7 +222,7 @@ template <Member m>
 TENK_INLINE tenkStatus frobNorm(Source<m> src, Size<m> width, Size<m> height, Element<m>* dst, Count<m> count)
 {
     using T = Element<m>;
-    constexpr unsigned step = frob::stepsOf(m).objects;
+    constexpr BatchSteps steps = frob::stepsOf(m);
     if (anyNull(src, dst))
         return tenkNullPointerError;
     if (anyZero(width, height))
@@ -232,17 +236,27 @@ TENK_INLINE tenkStatus frobNorm(Source<m> src, Size<m> width, Size<m> height, El
                     return tenkNullPointerError;
 
     if constexpr (m.batch() && frob::refinesEstimate(m)) {
-        if (src.stride1 == m.size * sizeof(T))
+        constexpr Displacement row = m.size * sizeof(T);
+        if (src.stride1 == row && (src.list || src.stride0 == m.size * row))
             return frob::normsByQuads<m, true>(src, dst, count);
         return frob::normsByQuads<m, false>(src, dst, count);
     } else {
-        const std::size_t tested = frob::testsRest(m) ? std::size_t{count} : count / step * step;
-        return inSteps<step>(
+        const std::size_t tested =
+            frob::testsRest(m) ? std::size_t{count} : count / steps.objects * steps.objects;
+        const auto isApart = [&] TENK_LAMBDA {
+            if constexpr (steps.objects > 1)
+                return Apart<m.size, m.size, steps.objects, Source<m>>(src, dst, count);
+            else
+                return [](std::size_t) TENK_LAMBDA { return true; };
+        }();
+        return inSteps<steps>(
             dst, count, [&](std::size_t k) TENK_LAMBDA { return k < tested && anyNullObject(k, src); },
+            isApart,
             [&](auto k) TENK_LAMBDA {
-                Row<T, m.size> c[step];
-                each<step>([&](auto n)
-                               TENK_LAMBDA { c[n] = frob::columnSums<T, m.size>(src.object(k + n, width)); });
+                Row<T, m.size> c[steps.objects];
+                each<steps.objects>([&](auto n) TENK_LAMBDA {
+                    c[n] = frob::columnSums<T, m.size>(src.object(k + n, width));
+                });
                 return root(frob::sumsAcross(c));
             },
             [&](std::size_t k) TENK_LAMBDA -> T {
