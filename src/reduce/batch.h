@@ -33,20 +33,19 @@ TENK_INLINE tenkStatus inSteps(T* dst, std::size_t count, Null isNull, Apart isA
                                One one)
 {
     std::size_t k = 0;
-    const auto isSplit = [&] TENK_LAMBDA {
+    const auto anyNullInStep = [&] TENK_LAMBDA {
         bool null = false;
-        each<steps.objects>([&](auto n) TENK_LAMBDA { null = null || isNull(k + n); });
-        return null || !isApart(k);
+        each<steps.objects>([&](auto n) TENK_LAMBDA { null |= isNull(k + n); });
+        return null;
     };
     while (k < count) {
         std::size_t end = count;
         if constexpr (steps.objects > 1) {
             for (; count - k >= steps.objects; k += steps.objects) {
-                if constexpr (steps.together) {
-                    for (unsigned n = 0; n < steps.objects; ++n)
-                        if (isNull(k + n))
-                            return tenkNullPointerError;
-                } else if (isSplit()) {
+                const bool null = anyNullInStep();
+                if (steps.together && null)
+                    return tenkNullPointerError;
+                if (!steps.together && (null || !isApart(k))) {
                     end = k + steps.objects;
                     break;
                 }
@@ -77,7 +76,7 @@ TENK_INLINE tenkStatus inSteps(T* dst, std::size_t count, Null isNull, Several s
 // The runs of so many bytes at a and at b have no byte in common.
 TENK_INLINE bool areApart(Address a, std::size_t aBytes, Address b, std::size_t bBytes)
 {
-    return b - a >= aBytes && a - b >= bBytes;
+    return b - a + (bBytes - 1) >= aBytes + (bBytes - 1);
 }
 
 // Whether the results of a batch lie apart from the objects of a source, which have `rows` dense rows of n

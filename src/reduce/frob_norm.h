@@ -33,7 +33,7 @@ consteval bool refinesEstimate(Member m)
 
 // How the objects of a batch are taken: those of 3 x 3 and 4 x 4 are read a step at a time, and their list
 // entries tested, before the first result of the step is written. All others go object by object, as far as
-// can be told.
+// can be told; in 64f it does not pay to find that out for each step of a list.
 consteval BatchSteps stepsOf(Member m)
 {
     const bool small = m.size <= 4;
@@ -41,7 +41,7 @@ consteval BatchSteps stepsOf(Member m)
         return {1, true};
     if (m.type == Type::f32)
         return {4, small};
-    return {2, small};
+    return {small || m.layout == Layout::Standard ? 2U : 1U, small};
 }
 
 // Lists that are worked through in steps test no entry of the objects behind the last full step: a null entry
@@ -189,29 +189,53 @@ TENK_INLINE Vector<float> sumsByQuads(Views view)
     return sums + lasts * lasts;
 }
 
-// Arrays of 32f; gapless, if rows follow each other without a gap and objects do, too, unless they are in a
-// list.
-template <Member m, bool gapless>
-TENK_INLINE tenkStatus normsByQuads(Source<m> src, float* dst, std::size_t count)
+// ---------------------------------------------------------------------------------------------------------------
+// The fixed sizes of adjacent elements
+// ---------------------------------------------------------------------------------------------------------------
+
+template <Member m>
+TENK_INLINE auto rootOf(auto s)
 {
+    if constexpr (refinesEstimate(m))
+        return refinedRoot(s);
+    else
+        return root(s);
+}
+
+// gapless: rows follow each other without a gap, and objects do, too, unless they are in a list.
+template <Member m, bool gapless>
+TENK_INLINE tenkStatus normsOfRows(Source<m> src, Element<m>* dst, std::size_t count)
+{
+    using T = Element<m>;
     using S = Source<m>;
     constexpr unsigned n = m.size;
     constexpr BatchSteps steps = stepsOf(m);
+    constexpr bool quads = m.batch() && m.type == Type::f32;
     if constexpr (gapless) {
-        src.stride1 = n * sizeof(float);
+        src.stride1 = n * sizeof(T);
         if constexpr (!S::list)
-            src.stride0 = n * n * sizeof(float);
+            src.stride0 = n * n * sizeof(T);
     }
     const std::size_t tested = testsRest(m) ? count : count / steps.objects * steps.objects;
     const auto view = [&](std::size_t k) TENK_LAMBDA { return src.object(k, n); };
     return inSteps<steps>(
         dst, count, [&](std::size_t k) TENK_LAMBDA { return k < tested && anyNullObject(k, src); },
         Apart<n, n, steps.objects, S>(src, dst, count),
-        [&](std::size_t k) TENK_LAMBDA {
-            return refinedRoot(
-                sumsByQuads<n, gapless>([&](std::size_t i) TENK_LAMBDA { return view(k + i); }));
+        [&](auto k) TENK_LAMBDA {
+            if constexpr (quads) {
+                return rootOf<m>(
+                    sumsByQuads<n, gapless>([&](std::size_t i) TENK_LAMBDA { return view(k + i); }));
+            } else {
+                const Row<T, n> c[] = {columnSums<T, n>(view(k)), columnSums<T, n>(view(k + 1))};
+                return rootOf<m>(sumsAcross(c));
+            }
         },
-        [&](std::size_t k) TENK_LAMBDA { return refinedRoot(sumByQuads<n, gapless>(view(k))); });
+        [&](std::size_t k) TENK_LAMBDA {
+            if constexpr (quads)
+                return rootOf<m>(sumByQuads<n, gapless>(view(k)));
+            else
+                return rootOf<m>(sumAcross(columnSums<T, n>(view(k))));
+        });
 }
 
 } // namespace tenk::frob
@@ -222,7 +246,6 @@ template <Member m>
 TENK_INLINE tenkStatus frobNorm(Source<m> src, Size<m> width, Size<m> height, Element<m>* dst, Count<m> count)
 {
     using T = Element<m>;
-    constexpr BatchSteps steps = frob::stepsOf(m);
     if (anyNull(src, dst))
         return tenkNullPointerError;
     if (anyZero(width, height))
@@ -235,47 +258,24 @@ TENK_INLINE tenkStatus frobNorm(Source<m> src, Size<m> width, Size<m> height, El
                 if (src.object(0, width).isNull(i, j))
                     return tenkNullPointerError;
 
-    if constexpr (m.batch() && frob::refinesEstimate(m)) {
+    if constexpr (frob::isOfRows(m)) {
         constexpr Displacement row = m.size * sizeof(T);
-        if (src.stride1 == row && (src.list || src.stride0 == m.size * row))
-            return frob::normsByQuads<m, true>(src, dst, count);
-        return frob::normsByQuads<m, false>(src, dst, count);
-    } else {
-        const std::size_t tested =
-            frob::testsRest(m) ? std::size_t{count} : count / steps.objects * steps.objects;
-        const auto isApart = [&] TENK_LAMBDA {
-            if constexpr (steps.objects > 1)
-                return Apart<m.size, m.size, steps.objects, Source<m>>(src, dst, count);
-            else
-                return [](std::size_t) TENK_LAMBDA { return true; };
-        }();
-        return inSteps<steps>(
-            dst, count, [&](std::size_t k) TENK_LAMBDA { return k < tested && anyNullObject(k, src); },
-            isApart,
-            [&](auto k) TENK_LAMBDA {
-                Row<T, m.size> c[steps.objects];
-                each<steps.objects>([&](auto n) TENK_LAMBDA {
-                    c[n] = frob::columnSums<T, m.size>(src.object(k + n, width));
-                });
-                return root(frob::sumsAcross(c));
-            },
-            [&](std::size_t k) TENK_LAMBDA -> T {
-                const auto x = src.object(k, width);
-                if constexpr (frob::refinesEstimate(m)) {
-                    return refinedRoot(frob::sumAcross(frob::columnSums<T, m.size>(x)));
-                } else if constexpr (frob::isOfRows(m)) {
-                    return root(frob::sumAcross(frob::columnSums<T, m.size>(x)));
-                } else {
-                    T s = 0;
-                    for (std::size_t outer = 0; outer < (m.batch() ? width : height); ++outer)
-                        for (std::size_t inner = 0; inner < (m.batch() ? height : width); ++inner) {
-                            const T element = load<T>(m.batch() ? x.at(inner, outer) : x.at(outer, inner));
-                            s = s + element * element;
-                        }
-                    return root(s);
-                }
-            });
+        if (src.stride1 == row && m.batch() && (src.list || src.stride0 == m.size * row))
+            return frob::normsOfRows<m, true>(src, dst, count);
+        return frob::normsOfRows<m, false>(src, dst, count);
     }
+    return inSteps<1>(
+        dst, count, [&](std::size_t k) TENK_LAMBDA { return anyNullObject(k, src); }, Nothing{},
+        [&](std::size_t k) TENK_LAMBDA {
+            const auto x = src.object(k, width);
+            T s = 0;
+            for (std::size_t outer = 0; outer < (m.batch() ? width : height); ++outer)
+                for (std::size_t inner = 0; inner < (m.batch() ? height : width); ++inner) {
+                    const T element = load<T>(m.batch() ? x.at(inner, outer) : x.at(outer, inner));
+                    s = s + element * element;
+                }
+            return root(s);
+        });
 }
 
 } // namespace tenk
