@@ -3,10 +3,24 @@
 // same roundings, and every lane holds an element of an object.
 #pragma once
 
+#include <type_traits>
+
 #include "frame/checks.h"
 #include "frame/row.h"
 
 namespace tenk {
+
+// A number as an element, or in every lane.
+template <typename V>
+TENK_INLINE V number(float x)
+{
+    if constexpr (std::is_same_v<V, Vector<float>>)
+        return broadcast(x);
+    else if constexpr (std::is_same_v<V, Vector<double>>)
+        return broadcast(double{x});
+    else
+        return V{x};
+}
 
 // How many objects stand side by side.
 template <typename T>

@@ -27,15 +27,6 @@ struct WideOf<double>
 template <typename V>
 using Wide = typename WideOf<V>::type;
 
-template <typename V>
-TENK_INLINE V number(float x)
-{
-    if constexpr (sizeof(V) == sizeof(Vector<float>) && !std::is_same_v<V, long double>)
-        return broadcast(x);
-    else
-        return V{x};
-}
-
 // The limit of a column's sum of squares, from the diagonal down: the same in both types. A NaN is below it.
 inline constexpr float columnFloor = 0x1p-23F;
 
