@@ -102,7 +102,12 @@ TENK_INLINE tenkStatus decompose(const From& src, const To& d, const RowIndex& r
             const T multiplier = dividesByPivot(m) ? x / pivot : x * reciprocal;
             store<T>(d.at(row, p), multiplier);
             const T factor = 0 - multiplier;
-            for (std::size_t j = p + 1; j < n; ++j)
+            std::size_t j = p + 1;
+            if constexpr (m.general() && isDense(m.layout))
+                for (; rowsApart<T>(d.rowStep, n) && n - j >= lanes<T>; j += lanes<T>)
+                    storeVector<T>(d.at(row, j), loadVector<T>(d.at(row, j)) +
+                                                     loadVector<T>(d.at(pivotRow, j)) * broadcast(factor));
+            for (; j < n; ++j)
                 store<T>(d.at(row, j), load<T>(d.at(row, j)) + load<T>(d.at(pivotRow, j)) * factor);
         }
     }
