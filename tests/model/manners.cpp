@@ -10,8 +10,10 @@ Manners mannersOf(const Name& name)
     switch (name.root) {
     case Root::Add:
     case Root::Sub:
-        // With disagreeing alignments any number may stand in for an element.
-        manners.flagsOpen = name.codes[0].kind == 'm' && arrangesSingleByItsAlignment(name);
+        // With disagreeing alignments any number may stand in for an element, and elements that a result
+        // leaves out may be added all the same.
+        manners.flagsOpen = name.codes[0].kind == 'm' && (arrangesSingleByItsAlignment(name) ||
+                                                          repeatsRowTwo(name) || permutesPlaces(name));
         break;
     case Root::LoadIdentity:
         manners.signedSizes = true;
@@ -29,12 +31,17 @@ Manners mannersOf(const Name& name)
         manners.largeSizes = false;
         manners.plainPercent = 60;
         break;
+    case Root::FrobNorm:
+        // The short kernels may add the squares in any order, and those of order 3 square a number beside
+        // each row.
+        manners.flagsOpen = !name.general();
+        break;
     case Root::Invert:
-        // Order 1 of the general members has no defined result.
-        manners.smallestSize = 2;
         manners.largestSize = 6;
         manners.largeSizes = false;
         manners.plainPercent = 60;
+        // How the cofactors of the fixed orders are formed is open.
+        manners.flagsOpen = !name.general();
         break;
     case Root::QRDecomp:
     case Root::QRBackSubst:

@@ -42,6 +42,7 @@ bool bitsKnown(const Stored& stored)
         return !isNaN(stored);
     case Rule::signOpen:
         return !isNaN(stored) && !isZero(stored);
+    case Rule::eitherSign:
     case Rule::within:
     case Rule::anything:
         return false;
@@ -86,6 +87,10 @@ bool matches(const Stored& stored, const std::byte* actual)
         return isNaN(stored) && isNaN(other);
     if (stored.rule == Rule::signOpen)
         return isZero(stored) && isZero(other);
+    if (stored.rule == Rule::eitherSign) {
+        other.bytes[other.size - 1] ^= std::byte{0x80};
+        return std::memcmp(stored.bytes.data(), other.bytes.data(), stored.size) == 0;
+    }
     if (stored.rule == Rule::within)
         return std::abs(widened(actual, stored.size) - widened(stored.bytes.data(), stored.size)) <=
                stored.bound;

@@ -24,7 +24,7 @@ struct OutOfMemory
     Address address = 0;
 };
 
-// Thrown when the documented behaviour leaves open what happens next, so that nothing can be compared: a
+// Thrown when a function makes no promise of what happens next, so that nothing can be compared: a
 // value that is only known within a bound, or the payload of a NaN, would decide about it.
 struct Undecided
 {
@@ -34,11 +34,12 @@ struct Undecided
 // What the library has to leave in a place.
 enum class Rule : std::uint8_t
 {
-    exact,    // these bits
-    number,   // the result of an operation: these bits, or any NaN for a NaN
-    signOpen, // as `number`, but a zero may have either sign
-    within,   // a number not farther than a bound from this one; infinities and NaNs as `number`
-    anything  // whatever it likes, also what was there before
+    exact,      // these bits
+    number,     // the result of an operation: these bits, or any NaN for a NaN
+    signOpen,   // as `number`, but a zero may have either sign
+    eitherSign, // as `number`, but with either sign
+    within,     // a number not farther than a bound from this one; infinities and NaNs as `number`
+    anything    // whatever it likes, also what was there before
 };
 
 struct Stored
@@ -138,6 +139,13 @@ public:
     void storeSignOpen(Address address, T value)
     {
         store(address, &value, sizeof(value), Rule::signOpen, 0);
+    }
+
+    // A result whose sign is open, as when an open zero divides.
+    template <std::floating_point T>
+    void storeEitherSign(Address address, T value)
+    {
+        store(address, &value, sizeof(value), Rule::eitherSign, 0);
     }
 
     // A result that is known up to `bound`, an absolute distance.
