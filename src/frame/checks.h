@@ -49,6 +49,17 @@ TENK_INLINE bool anyNullEntry(const Operand<T, layout, code>& o, std::size_t n)
     return false;
 }
 
+// The same for the tables of several operands, index by index.
+template <typename... O>
+TENK_INLINE bool anyNullEntryOf(std::size_t n, const O&... operands)
+{
+    if constexpr ((O::table || ...))
+        for (std::size_t e = 0; e < n; ++e)
+            if ((operands.nullEntry(e) || ...))
+                return true;
+    return false;
+}
+
 // Entry k of the list of each operand that is one.
 template <typename... O>
 TENK_INLINE bool anyNullObject(std::size_t k, const O&... operands)

@@ -117,6 +117,8 @@ struct Operand
     using Value = T;
     static constexpr bool table = isTable(layout);
     static constexpr bool list = isList(layout) && code.array;
+    static constexpr bool single = !code.array;
+    static constexpr bool transposed = code.transposed;
 
     Address p;
     Displacement shift, stride0, stride1, stride2;

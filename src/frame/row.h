@@ -1,4 +1,4 @@
-// Rows of N adjacent elements in 128-bit vectors, and square blocks of them.
+// Rows of N adjacent elements in 128-bit vectors, and blocks of them.
 //
 // A row is loaded and stored without touching a byte outside it, at any address. No lane ever holds a value
 // that is not an element of the row: arithmetic on a row raises no exception flag that its elements would not
@@ -192,16 +192,21 @@ struct Row
             return rest[Tail::laneOf[j % lanes<T>]];
     }
 
-    // The row whose vectors are f of the vectors of a and b, whichever way the elements are split among
+    // The row whose vectors are f of the vectors of other rows, whichever way the elements are split among
     // vectors.
+    template <typename F, typename... R>
+    TENK_INLINE static Row map(F f, const R&... rows)
+    {
+        Row r;
+        each<full>([&](auto v) TENK_LAMBDA { r.vector[v] = f(rows.vector[v]...); });
+        if constexpr (left != 0)
+            r.rest = f(rows.rest...);
+        return r;
+    }
     template <typename F>
     TENK_INLINE static Row combine(const Row& a, const Row& b, F f)
     {
-        Row r;
-        each<full>([&](auto v) TENK_LAMBDA { r.vector[v] = f(a.vector[v], b.vector[v]); });
-        if constexpr (left != 0)
-            r.rest = f(a.rest, b.rest);
-        return r;
+        return map(f, a, b);
     }
 
     TENK_INLINE friend Row operator+(const Row& a, const Row& b)
@@ -219,26 +224,35 @@ struct Row
 };
 
 // ---------------------------------------------------------------------------------------------------------------
-// Square blocks
+// Blocks of rows
 // ---------------------------------------------------------------------------------------------------------------
 
-template <typename T, unsigned n>
+template <typename T, unsigned rows, unsigned columns = rows>
 struct Block
 {
-    Row<T, n> row[n];
+    Row<T, columns> row[rows];
 
     template <typename View>
     TENK_INLINE static Block load(const View& view)
     {
         Block b;
-        each<n>([&](auto i) TENK_LAMBDA { b.row[i] = Row<T, n>::load(view.row(i)); });
+        each<rows>([&](auto i) TENK_LAMBDA { b.row[i] = Row<T, columns>::load(view.row(i)); });
         return b;
     }
 
     template <typename View>
     TENK_INLINE void store(const View& view) const
     {
-        each<n>([&](auto i) TENK_LAMBDA { row[i].store(view.row(i)); });
+        each<rows>([&](auto i) TENK_LAMBDA { row[i].store(view.row(i)); });
+    }
+
+    // Row by row; see Row.
+    template <typename F, typename... B>
+    TENK_INLINE static Block map(F f, const B&... blocks)
+    {
+        Block b;
+        each<rows>([&](auto i) TENK_LAMBDA { b.row[i] = Row<T, columns>::map(f, blocks.row[i]...); });
+        return b;
     }
 };
 

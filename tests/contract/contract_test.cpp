@@ -194,9 +194,9 @@ Names builtNames()
     for (const auto& f : tenk::tools::allFunctionsOfTheTable())
         if (tenk::tools::isBuilt(*f.family) &&
             (std::string(TENK_ONLY).empty() ||
-             std::string(";" TENK_ONLY ";")
-                     .find(";" + std::string(tenk::roots[static_cast<std::size_t>(f.member.root)].header) +
-                           ";") != std::string::npos))
+             std::string(" " TENK_ONLY " ")
+                     .find(" " + std::string(tenk::roots[static_cast<std::size_t>(f.member.root)].header) +
+                           " ") != std::string::npos))
             names.insert(f.name);
     return names;
 }

@@ -77,7 +77,7 @@ public:
         keepSingle();
         if (takesOneAtLeast(name_))
             return runAhead();
-        return loadsAhead() && hasAdjacentRows(name_) ? runLoadingAhead() : runInTurn();
+        return loadsNextObjectFirst(name_) ? runLoadingAhead() : runInTurn();
     }
 
 private:
@@ -87,8 +87,6 @@ private:
         bool known = true;
     };
     using Object = std::vector<Element>;
-
-    bool loadsAhead() const { return name_.type == Type::f32 && n_ == 3; }
 
     const Operand& single() const { return src1_.form().array ? src2_ : src1_; }
     const Operand& array() const { return src1_.form().array ? src1_ : src2_; }
@@ -178,6 +176,7 @@ private:
     Object loaded(std::uint32_t k)
     {
         Object object;
+        pair_.mayReadUnused(memory_, k);
         for (std::uint32_t i = 0; i < n_; ++i) {
             for (std::uint32_t j = 0; j < n_; ++j) {
                 const Element a = operandElement(src1_, k, i, j);
@@ -238,8 +237,7 @@ private:
                 return nullPointerError;
             const Object object = loaded(k);
             store(object, k);
-            // Element by element the next object may be loaded sooner or later.
-            if (loadsAhead() && k + 1 < call_.count())
+            if (mayLoadNextObjectFirst(name_) && k + 1 < call_.count())
                 noteNextObject(k + 1);
             open_.settle();
         }

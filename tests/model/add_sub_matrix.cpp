@@ -54,6 +54,18 @@ Address MatrixPair::second(Memory& memory, std::uint32_t k, std::uint32_t i, std
     return usualPlace(name, src2, memory, k, i, j);
 }
 
+void MatrixPair::mayReadUnused(Memory& memory, std::uint32_t k) const
+{
+    if (!repeatsRowTwo(name) && !permutesPlaces(name))
+        return;
+    for (std::uint32_t i = 0; i < name.size; ++i) {
+        for (std::uint32_t j = 0; j < name.size; ++j) {
+            memory.mayRead(src1.used(memory, k, i, j), src1.elementSize());
+            memory.mayRead(src2.used(memory, k, i, j), src2.elementSize());
+        }
+    }
+}
+
 bool isFixedBatch(const Name& name)
 {
     return name.codes[0].kind == 'm' && !name.general() && name.anyArray();
@@ -85,6 +97,8 @@ struct MatrixSum
         };
         const std::array sources = {pair.src1, pair.src2};
         using Member = Elementwise<T, 2, decltype(formula), decltype(place)>;
+        if (!nullArgument(call))
+            pair.mayReadUnused(memory, 0);
         return Member(call, memory, sources, orderOf(call.name()), formula, place).run();
     }
 };

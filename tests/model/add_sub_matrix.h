@@ -23,6 +23,18 @@ inline bool findsSecondRowsByFirst(const Name& name)
     return name.type == Type::f32 && name.size == 3 && name.codeText == "mamT" && hasAdjacentRows(name);
 }
 
+// The next object is loaded before the current one is stored. Where elements are taken one by one, by a step
+// of their own or through a table, it may be so or not.
+inline bool loadsNextObjectFirst(const Name& name)
+{
+    return name.type == Type::f32 && name.size == 3 && hasAdjacentRows(name) && name.codeIn("mam mamT");
+}
+
+inline bool mayLoadNextObjectFirst(const Name& name)
+{
+    return name.type == Type::f32 && name.size == 3 && !hasAdjacentRows(name);
+}
+
 // The last column of the first operand is found with the row step of the second.
 inline bool findsLastColumnBySecond(const Name& name)
 {
@@ -70,6 +82,9 @@ struct MatrixPair
 
     Address first(Memory& memory, std::uint32_t k, std::uint32_t i, std::uint32_t j) const;
     Address second(Memory& memory, std::uint32_t k, std::uint32_t i, std::uint32_t j) const;
+
+    // Allows to read all of object k where a member does not use all of its elements.
+    void mayReadUnused(Memory& memory, std::uint32_t k) const;
 
     const Name& name;
     const Operand src1;

@@ -39,6 +39,8 @@ public:
             return sizeError;
         if (call_.name().anyArray() && nullInAllTables())
             return nullPointerError;
+        for (const Operand& source : sources_)
+            mayReadAhead(call_, memory_, {&source});
         std::int32_t status = ok;
         for (std::uint32_t k = 0; k < call_.count() && status == ok; ++k)
             status = nullInLists(k) ? nullPointerError : object(k);

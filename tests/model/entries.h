@@ -37,6 +37,23 @@ inline bool nullInAnyList(Memory& memory, std::uint32_t k, std::initializer_list
     return found;
 }
 
+// A fixed member may read a single operand as soon as it is known that there are objects, ahead of the first
+// test of a list.
+inline void mayReadAhead(const Call& call, Memory& memory, std::initializer_list<const Operand*> operands)
+{
+    if (call.name().general() || call.count() == 0 || !isList(call.name().layout))
+        return;
+    for (const Operand* operand : operands) {
+        if (operand->form().array)
+            continue;
+        const Shape shape = operand->shape();
+        for (std::uint32_t i = 0; i < shape.height; ++i) {
+            for (std::uint32_t j = 0; j < shape.width; ++j)
+                memory.mayRead(operand->used(memory, 0, i, j), operand->elementSize());
+        }
+    }
+}
+
 // The entry of a table through which the element used at (i, j) is read.
 inline Address usedEntry(const Operand& operand, std::uint32_t i, std::uint32_t j)
 {

@@ -39,6 +39,7 @@ public:
             nullInTables(memory_,
                          {{&src1_, width_ * height_}, {&src2_, width_}, {&src3_, height_}, {&dst_, height_}}))
             return nullPointerError;
+        mayReadAhead(call_, memory_, {&src1_});
         for (std::uint32_t k = 0; k < call_.count(); ++k) {
             if (nullInAnyList(memory_, k, {&src2_, &src3_, &dst_}))
                 return nullPointerError;

@@ -15,10 +15,20 @@ Order orderOf(const Name& name)
 }
 
 // Members that may form the products of the single vector ahead of the objects, also when there are none.
-bool readsSingleAhead(const Name& name)
+bool multipliesAhead(const Name& name)
 {
     return name.codeText == "vav" && !name.general() &&
            (name.layout == Layout::standard || name.layout == Layout::list);
+}
+
+// What is left of that in a call without objects: the loads, and the flags of the products.
+template <typename T>
+void multiplyAhead(Memory& memory, const Operand& src2, T value2)
+{
+    for (std::uint32_t j = 0; j < src2.shape().width; ++j) {
+        const T element = memory.load<T>(src2.element(memory, 0, j));
+        [[maybe_unused]] const volatile T product = element * value2;
+    }
 }
 
 template <typename T>
@@ -35,11 +45,9 @@ struct LComb
             return sum;
         };
         const std::array sources = {call.operand("src1"), call.operand("src2")};
-        const std::int32_t status = runElementwise<T>(call, memory, sources, orderOf(call.name()), formula);
-        const bool tested = !nullArgument(call);
-        if (tested && readsSingleAhead(call.name()))
-            memory.mayRead(sources[1].pointer(), call.name().size * sizeof(T));
-        return status;
+        if (!nullArgument(call) && multipliesAhead(call.name()))
+            multiplyAhead(memory, sources[1], value2);
+        return runElementwise<T>(call, memory, sources, orderOf(call.name()), formula);
     }
 };
 

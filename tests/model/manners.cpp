@@ -10,8 +10,10 @@ Manners mannersOf(const Name& name)
     switch (name.root) {
     case Root::Add:
     case Root::Sub:
-        // With disagreeing alignments any number may stand in for an element.
-        manners.flagsOpen = name.codes[0].kind == 'm' && arrangesSingleByItsAlignment(name);
+        // With disagreeing alignments any number may stand in for an element, and elements that a result
+        // leaves out may be added all the same.
+        manners.flagsOpen = name.codes[0].kind == 'm' && (arrangesSingleByItsAlignment(name) ||
+                                                          repeatsRowTwo(name) || permutesPlaces(name));
         break;
     case Root::LoadIdentity:
         manners.signedSizes = true;

@@ -24,7 +24,7 @@ struct OutOfMemory
     Address address = 0;
 };
 
-// Thrown when the documented behaviour leaves open what happens next, so that nothing can be compared: a
+// Thrown when a function makes no promise of what happens next, so that nothing can be compared: a
 // value that is only known within a bound, or the payload of a NaN, would decide about it.
 struct Undecided
 {

@@ -89,7 +89,8 @@ std::string firstDifference(const model::Name& name)
             const model::Draw draw = model::drawCall(name, random);
             const model::Verdict verdict = model::compareCall(draw, behaviour, function);
             if (!verdict.difference.empty())
-                return "call " + std::to_string(round) + ": " + draw.text() + "\n  " + verdict.difference;
+                return draw.text() + "\n  " + verdict.difference +
+                       "\n  (TENK_MODEL_CALL=" + std::to_string(round) + " makes this call alone)";
             if (verdict.made) {
                 ++made;
                 break;

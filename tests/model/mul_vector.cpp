@@ -51,6 +51,7 @@ public:
             return nullPointerError;
         if (call_.count() == 0)
             return ok;
+        mayReadAhead(call_, memory_, {&src1_});
         if (sumsRowsInLanes(name_) && !src2_.form().array)
             kept_ = vector(0);
         for (std::uint32_t k = 0; k < call_.count(); ++k) {

@@ -1,0 +1,2335 @@
+/* tenk: add
+ */
+#ifndef TENK_ADD_H
+#define TENK_ADD_H
+
+#include "tenk/types.h"
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* Made by tools/generate; edit above this line or below the next. */
+/* clang-format off */
+
+/* mm */
+TENK_API tenkStatus tenkAdd_mm_32f(const float* src1, uint32_t src1Stride1, const float* src2,
+    uint32_t src2Stride1, float* dst, uint32_t dstStride1, uint32_t width, uint32_t height);
+TENK_API tenkStatus tenkAdd_mm_32f_S2(const float* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t width, uint32_t height);
+TENK_API tenkStatus tenkAdd_mm_32f_P(const float* const* src1, uint32_t src1Shift, const float* const* src2,
+    uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t width, uint32_t height);
+TENK_API tenkStatus tenkAdd_mm_32f_3x3(const float* src1, uint32_t src1Stride1, const float* src2,
+    uint32_t src2Stride1, float* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkAdd_mm_32f_3x3_S2(const float* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst, uint32_t dstStride1,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_mm_32f_3x3_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_mm_32f_4x4(const float* src1, uint32_t src1Stride1, const float* src2,
+    uint32_t src2Stride1, float* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkAdd_mm_32f_4x4_S2(const float* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst, uint32_t dstStride1,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_mm_32f_4x4_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_mm_32f_5x5(const float* src1, uint32_t src1Stride1, const float* src2,
+    uint32_t src2Stride1, float* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkAdd_mm_32f_5x5_S2(const float* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst, uint32_t dstStride1,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_mm_32f_5x5_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_mm_32f_6x6(const float* src1, uint32_t src1Stride1, const float* src2,
+    uint32_t src2Stride1, float* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkAdd_mm_32f_6x6_S2(const float* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst, uint32_t dstStride1,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_mm_32f_6x6_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_mm_64f(const double* src1, uint32_t src1Stride1, const double* src2,
+    uint32_t src2Stride1, double* dst, uint32_t dstStride1, uint32_t width, uint32_t height);
+TENK_API tenkStatus tenkAdd_mm_64f_S2(const double* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t width, uint32_t height);
+TENK_API tenkStatus tenkAdd_mm_64f_P(const double* const* src1, uint32_t src1Shift, const double* const* src2,
+    uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t width, uint32_t height);
+TENK_API tenkStatus tenkAdd_mm_64f_3x3(const double* src1, uint32_t src1Stride1, const double* src2,
+    uint32_t src2Stride1, double* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkAdd_mm_64f_3x3_S2(const double* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst, uint32_t dstStride1,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_mm_64f_3x3_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_mm_64f_4x4(const double* src1, uint32_t src1Stride1, const double* src2,
+    uint32_t src2Stride1, double* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkAdd_mm_64f_4x4_S2(const double* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst, uint32_t dstStride1,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_mm_64f_4x4_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_mm_64f_5x5(const double* src1, uint32_t src1Stride1, const double* src2,
+    uint32_t src2Stride1, double* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkAdd_mm_64f_5x5_S2(const double* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst, uint32_t dstStride1,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_mm_64f_5x5_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_mm_64f_6x6(const double* src1, uint32_t src1Stride1, const double* src2,
+    uint32_t src2Stride1, double* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkAdd_mm_64f_6x6_S2(const double* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst, uint32_t dstStride1,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_mm_64f_6x6_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift);
+
+/* mTm */
+TENK_API tenkStatus tenkAdd_mTm_32f(const float* src1, uint32_t src1Stride1, const float* src2,
+    uint32_t src2Stride1, float* dst, uint32_t dstStride1, uint32_t width, uint32_t height);
+TENK_API tenkStatus tenkAdd_mTm_32f_S2(const float* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t width, uint32_t height);
+TENK_API tenkStatus tenkAdd_mTm_32f_P(const float* const* src1, uint32_t src1Shift, const float* const* src2,
+    uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t width, uint32_t height);
+TENK_API tenkStatus tenkAdd_mTm_32f_3x3(const float* src1, uint32_t src1Stride1, const float* src2,
+    uint32_t src2Stride1, float* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkAdd_mTm_32f_3x3_S2(const float* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst, uint32_t dstStride1,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_mTm_32f_3x3_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_mTm_32f_4x4(const float* src1, uint32_t src1Stride1, const float* src2,
+    uint32_t src2Stride1, float* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkAdd_mTm_32f_4x4_S2(const float* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst, uint32_t dstStride1,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_mTm_32f_4x4_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_mTm_32f_5x5(const float* src1, uint32_t src1Stride1, const float* src2,
+    uint32_t src2Stride1, float* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkAdd_mTm_32f_5x5_S2(const float* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst, uint32_t dstStride1,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_mTm_32f_5x5_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_mTm_32f_6x6(const float* src1, uint32_t src1Stride1, const float* src2,
+    uint32_t src2Stride1, float* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkAdd_mTm_32f_6x6_S2(const float* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst, uint32_t dstStride1,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_mTm_32f_6x6_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_mTm_64f(const double* src1, uint32_t src1Stride1, const double* src2,
+    uint32_t src2Stride1, double* dst, uint32_t dstStride1, uint32_t width, uint32_t height);
+TENK_API tenkStatus tenkAdd_mTm_64f_S2(const double* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t width, uint32_t height);
+TENK_API tenkStatus tenkAdd_mTm_64f_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t width,
+    uint32_t height);
+TENK_API tenkStatus tenkAdd_mTm_64f_3x3(const double* src1, uint32_t src1Stride1, const double* src2,
+    uint32_t src2Stride1, double* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkAdd_mTm_64f_3x3_S2(const double* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst, uint32_t dstStride1,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_mTm_64f_3x3_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_mTm_64f_4x4(const double* src1, uint32_t src1Stride1, const double* src2,
+    uint32_t src2Stride1, double* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkAdd_mTm_64f_4x4_S2(const double* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst, uint32_t dstStride1,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_mTm_64f_4x4_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_mTm_64f_5x5(const double* src1, uint32_t src1Stride1, const double* src2,
+    uint32_t src2Stride1, double* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkAdd_mTm_64f_5x5_S2(const double* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst, uint32_t dstStride1,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_mTm_64f_5x5_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_mTm_64f_6x6(const double* src1, uint32_t src1Stride1, const double* src2,
+    uint32_t src2Stride1, double* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkAdd_mTm_64f_6x6_S2(const double* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst, uint32_t dstStride1,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_mTm_64f_6x6_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift);
+
+/* mmT */
+TENK_API tenkStatus tenkAdd_mmT_32f(const float* src1, uint32_t src1Stride1, const float* src2,
+    uint32_t src2Stride1, float* dst, uint32_t dstStride1, uint32_t width, uint32_t height);
+TENK_API tenkStatus tenkAdd_mmT_32f_S2(const float* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t width, uint32_t height);
+TENK_API tenkStatus tenkAdd_mmT_32f_P(const float* const* src1, uint32_t src1Shift, const float* const* src2,
+    uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t width, uint32_t height);
+TENK_API tenkStatus tenkAdd_mmT_32f_3x3(const float* src1, uint32_t src1Stride1, const float* src2,
+    uint32_t src2Stride1, float* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkAdd_mmT_32f_3x3_S2(const float* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst, uint32_t dstStride1,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_mmT_32f_3x3_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_mmT_32f_4x4(const float* src1, uint32_t src1Stride1, const float* src2,
+    uint32_t src2Stride1, float* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkAdd_mmT_32f_4x4_S2(const float* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst, uint32_t dstStride1,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_mmT_32f_4x4_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_mmT_32f_5x5(const float* src1, uint32_t src1Stride1, const float* src2,
+    uint32_t src2Stride1, float* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkAdd_mmT_32f_5x5_S2(const float* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst, uint32_t dstStride1,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_mmT_32f_5x5_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_mmT_32f_6x6(const float* src1, uint32_t src1Stride1, const float* src2,
+    uint32_t src2Stride1, float* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkAdd_mmT_32f_6x6_S2(const float* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst, uint32_t dstStride1,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_mmT_32f_6x6_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_mmT_64f(const double* src1, uint32_t src1Stride1, const double* src2,
+    uint32_t src2Stride1, double* dst, uint32_t dstStride1, uint32_t width, uint32_t height);
+TENK_API tenkStatus tenkAdd_mmT_64f_S2(const double* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t width, uint32_t height);
+TENK_API tenkStatus tenkAdd_mmT_64f_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t width,
+    uint32_t height);
+TENK_API tenkStatus tenkAdd_mmT_64f_3x3(const double* src1, uint32_t src1Stride1, const double* src2,
+    uint32_t src2Stride1, double* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkAdd_mmT_64f_3x3_S2(const double* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst, uint32_t dstStride1,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_mmT_64f_3x3_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_mmT_64f_4x4(const double* src1, uint32_t src1Stride1, const double* src2,
+    uint32_t src2Stride1, double* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkAdd_mmT_64f_4x4_S2(const double* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst, uint32_t dstStride1,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_mmT_64f_4x4_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_mmT_64f_5x5(const double* src1, uint32_t src1Stride1, const double* src2,
+    uint32_t src2Stride1, double* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkAdd_mmT_64f_5x5_S2(const double* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst, uint32_t dstStride1,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_mmT_64f_5x5_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_mmT_64f_6x6(const double* src1, uint32_t src1Stride1, const double* src2,
+    uint32_t src2Stride1, double* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkAdd_mmT_64f_6x6_S2(const double* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst, uint32_t dstStride1,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_mmT_64f_6x6_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift);
+
+/* mTmT */
+TENK_API tenkStatus tenkAdd_mTmT_32f(const float* src1, uint32_t src1Stride1, const float* src2,
+    uint32_t src2Stride1, float* dst, uint32_t dstStride1, uint32_t width, uint32_t height);
+TENK_API tenkStatus tenkAdd_mTmT_32f_S2(const float* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t width, uint32_t height);
+TENK_API tenkStatus tenkAdd_mTmT_32f_P(const float* const* src1, uint32_t src1Shift, const float* const* src2,
+    uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t width, uint32_t height);
+TENK_API tenkStatus tenkAdd_mTmT_32f_3x3(const float* src1, uint32_t src1Stride1, const float* src2,
+    uint32_t src2Stride1, float* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkAdd_mTmT_32f_3x3_S2(const float* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst, uint32_t dstStride1,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_mTmT_32f_3x3_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_mTmT_32f_4x4(const float* src1, uint32_t src1Stride1, const float* src2,
+    uint32_t src2Stride1, float* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkAdd_mTmT_32f_4x4_S2(const float* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst, uint32_t dstStride1,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_mTmT_32f_4x4_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_mTmT_32f_5x5(const float* src1, uint32_t src1Stride1, const float* src2,
+    uint32_t src2Stride1, float* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkAdd_mTmT_32f_5x5_S2(const float* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst, uint32_t dstStride1,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_mTmT_32f_5x5_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_mTmT_32f_6x6(const float* src1, uint32_t src1Stride1, const float* src2,
+    uint32_t src2Stride1, float* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkAdd_mTmT_32f_6x6_S2(const float* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst, uint32_t dstStride1,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_mTmT_32f_6x6_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_mTmT_64f(const double* src1, uint32_t src1Stride1, const double* src2,
+    uint32_t src2Stride1, double* dst, uint32_t dstStride1, uint32_t width, uint32_t height);
+TENK_API tenkStatus tenkAdd_mTmT_64f_S2(const double* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t width, uint32_t height);
+TENK_API tenkStatus tenkAdd_mTmT_64f_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t width,
+    uint32_t height);
+TENK_API tenkStatus tenkAdd_mTmT_64f_3x3(const double* src1, uint32_t src1Stride1, const double* src2,
+    uint32_t src2Stride1, double* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkAdd_mTmT_64f_3x3_S2(const double* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst, uint32_t dstStride1,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_mTmT_64f_3x3_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_mTmT_64f_4x4(const double* src1, uint32_t src1Stride1, const double* src2,
+    uint32_t src2Stride1, double* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkAdd_mTmT_64f_4x4_S2(const double* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst, uint32_t dstStride1,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_mTmT_64f_4x4_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_mTmT_64f_5x5(const double* src1, uint32_t src1Stride1, const double* src2,
+    uint32_t src2Stride1, double* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkAdd_mTmT_64f_5x5_S2(const double* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst, uint32_t dstStride1,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_mTmT_64f_5x5_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_mTmT_64f_6x6(const double* src1, uint32_t src1Stride1, const double* src2,
+    uint32_t src2Stride1, double* dst, uint32_t dstStride1);
+TENK_API tenkStatus tenkAdd_mTmT_64f_6x6_S2(const double* src1, uint32_t src1Stride1, uint32_t src1Stride2,
+    const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst, uint32_t dstStride1,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_mTmT_64f_6x6_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift);
+
+/* mam */
+TENK_API tenkStatus tenkAdd_mam_32f(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_32f_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t width, uint32_t height,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_32f_P(const float* const* src1, uint32_t src1Shift, const float* const* src2,
+    uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t width, uint32_t height,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_32f_PS2(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride0,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t dstStride0,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_32f_L(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_32f_LS2(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* const* dst,
+    uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2, uint32_t width, uint32_t height,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_32f_3x3(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_32f_3x3_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_32f_3x3_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_32f_3x3_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_32f_3x3_L(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_32f_3x3_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_32f_4x4(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_32f_4x4_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_32f_4x4_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_32f_4x4_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_32f_4x4_L(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_32f_4x4_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_32f_5x5(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_32f_5x5_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_32f_5x5_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_32f_5x5_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_32f_5x5_L(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_32f_5x5_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_32f_6x6(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_32f_6x6_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_32f_6x6_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_32f_6x6_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_32f_6x6_L(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_32f_6x6_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_64f(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride1, double* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_64f_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t width, uint32_t height,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_64f_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t width,
+    uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_64f_PS2(const double* const* src1, uint32_t src1Shift, uint32_t src1Stride0,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t dstStride0,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_64f_L(const double* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride1, double* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_64f_LS2(const double* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2, uint32_t width, uint32_t height,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_64f_3x3(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride1, double* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_64f_3x3_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_64f_3x3_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_64f_3x3_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_64f_3x3_L(const double* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride1, double* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_64f_3x3_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* src2, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_64f_4x4(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride1, double* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_64f_4x4_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_64f_4x4_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_64f_4x4_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_64f_4x4_L(const double* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride1, double* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_64f_4x4_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* src2, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_64f_5x5(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride1, double* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_64f_5x5_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_64f_5x5_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_64f_5x5_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_64f_5x5_L(const double* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride1, double* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_64f_5x5_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* src2, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_64f_6x6(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride1, double* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_64f_6x6_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_64f_6x6_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_64f_6x6_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_64f_6x6_L(const double* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride1, double* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mam_64f_6x6_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* src2, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+
+/* maTm */
+TENK_API tenkStatus tenkAdd_maTm_32f(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_32f_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t width, uint32_t height,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_32f_P(const float* const* src1, uint32_t src1Shift, const float* const* src2,
+    uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t width, uint32_t height,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_32f_PS2(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride0,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t dstStride0,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_32f_L(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_32f_LS2(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* const* dst,
+    uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2, uint32_t width, uint32_t height,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_32f_3x3(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_32f_3x3_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_32f_3x3_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_32f_3x3_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_32f_3x3_L(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_32f_3x3_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_32f_4x4(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_32f_4x4_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_32f_4x4_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_32f_4x4_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_32f_4x4_L(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_32f_4x4_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_32f_5x5(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_32f_5x5_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_32f_5x5_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_32f_5x5_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_32f_5x5_L(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_32f_5x5_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_32f_6x6(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_32f_6x6_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_32f_6x6_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_32f_6x6_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_32f_6x6_L(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_32f_6x6_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_64f(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride1, double* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_64f_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t width, uint32_t height,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_64f_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t width,
+    uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_64f_PS2(const double* const* src1, uint32_t src1Shift, uint32_t src1Stride0,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t dstStride0,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_64f_L(const double* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride1, double* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_64f_LS2(const double* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2, uint32_t width, uint32_t height,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_64f_3x3(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride1, double* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_64f_3x3_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_64f_3x3_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_64f_3x3_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_64f_3x3_L(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const double* src2, uint32_t src2Stride1, double* const* dst, uint32_t dstShift,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_64f_3x3_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* src2, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_64f_4x4(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride1, double* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_64f_4x4_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_64f_4x4_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_64f_4x4_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_64f_4x4_L(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const double* src2, uint32_t src2Stride1, double* const* dst, uint32_t dstShift,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_64f_4x4_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* src2, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_64f_5x5(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride1, double* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_64f_5x5_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_64f_5x5_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_64f_5x5_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_64f_5x5_L(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const double* src2, uint32_t src2Stride1, double* const* dst, uint32_t dstShift,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_64f_5x5_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* src2, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_64f_6x6(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride1, double* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_64f_6x6_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_64f_6x6_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_64f_6x6_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_64f_6x6_L(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const double* src2, uint32_t src2Stride1, double* const* dst, uint32_t dstShift,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTm_64f_6x6_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* src2, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+
+/* mamT */
+TENK_API tenkStatus tenkAdd_mamT_32f(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_32f_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t width, uint32_t height,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_32f_P(const float* const* src1, uint32_t src1Shift, const float* const* src2,
+    uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t width, uint32_t height,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_32f_PS2(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride0,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t dstStride0,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_32f_L(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_32f_LS2(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* const* dst,
+    uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2, uint32_t width, uint32_t height,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_32f_3x3(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_32f_3x3_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_32f_3x3_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_32f_3x3_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_32f_3x3_L(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_32f_3x3_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_32f_4x4(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_32f_4x4_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_32f_4x4_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_32f_4x4_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_32f_4x4_L(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_32f_4x4_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_32f_5x5(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_32f_5x5_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_32f_5x5_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_32f_5x5_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_32f_5x5_L(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_32f_5x5_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_32f_6x6(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_32f_6x6_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_32f_6x6_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_32f_6x6_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_32f_6x6_L(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_32f_6x6_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_64f(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride1, double* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_64f_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t width, uint32_t height,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_64f_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t width,
+    uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_64f_PS2(const double* const* src1, uint32_t src1Shift, uint32_t src1Stride0,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t dstStride0,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_64f_L(const double* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride1, double* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_64f_LS2(const double* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2, uint32_t width, uint32_t height,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_64f_3x3(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride1, double* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_64f_3x3_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_64f_3x3_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_64f_3x3_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_64f_3x3_L(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const double* src2, uint32_t src2Stride1, double* const* dst, uint32_t dstShift,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_64f_3x3_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* src2, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_64f_4x4(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride1, double* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_64f_4x4_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_64f_4x4_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_64f_4x4_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_64f_4x4_L(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const double* src2, uint32_t src2Stride1, double* const* dst, uint32_t dstShift,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_64f_4x4_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* src2, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_64f_5x5(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride1, double* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_64f_5x5_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_64f_5x5_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_64f_5x5_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_64f_5x5_L(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const double* src2, uint32_t src2Stride1, double* const* dst, uint32_t dstShift,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_64f_5x5_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* src2, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_64f_6x6(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride1, double* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_64f_6x6_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_64f_6x6_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_64f_6x6_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_64f_6x6_L(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const double* src2, uint32_t src2Stride1, double* const* dst, uint32_t dstShift,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamT_64f_6x6_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* src2, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+
+/* maTmT */
+TENK_API tenkStatus tenkAdd_maTmT_32f(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_32f_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t width, uint32_t height,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_32f_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t width,
+    uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_32f_PS2(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride0,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t dstStride0,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_32f_L(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_32f_LS2(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* const* dst,
+    uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2, uint32_t width, uint32_t height,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_32f_3x3(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_32f_3x3_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_32f_3x3_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_32f_3x3_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_32f_3x3_L(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const float* src2, uint32_t src2Stride1, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_32f_3x3_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_32f_4x4(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_32f_4x4_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_32f_4x4_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_32f_4x4_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_32f_4x4_L(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const float* src2, uint32_t src2Stride1, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_32f_4x4_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_32f_5x5(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_32f_5x5_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_32f_5x5_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_32f_5x5_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_32f_5x5_L(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const float* src2, uint32_t src2Stride1, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_32f_5x5_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_32f_6x6(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride1, float* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_32f_6x6_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2, float* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_32f_6x6_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_32f_6x6_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_32f_6x6_L(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const float* src2, uint32_t src2Stride1, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_32f_6x6_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const float* src2, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_64f(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride1, double* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_64f_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t width, uint32_t height,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_64f_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t width,
+    uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_64f_PS2(const double* const* src1, uint32_t src1Shift, uint32_t src1Stride0,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t dstStride0,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_64f_L(const double* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride1, double* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_64f_LS2(const double* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2, uint32_t width, uint32_t height,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_64f_3x3(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride1, double* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_64f_3x3_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_64f_3x3_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_64f_3x3_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_64f_3x3_L(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const double* src2, uint32_t src2Stride1, double* const* dst, uint32_t dstShift,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_64f_3x3_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* src2, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_64f_4x4(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride1, double* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_64f_4x4_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_64f_4x4_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_64f_4x4_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_64f_4x4_L(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const double* src2, uint32_t src2Stride1, double* const* dst, uint32_t dstShift,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_64f_4x4_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* src2, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_64f_5x5(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride1, double* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_64f_5x5_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_64f_5x5_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_64f_5x5_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_64f_5x5_L(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const double* src2, uint32_t src2Stride1, double* const* dst, uint32_t dstShift,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_64f_5x5_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* src2, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_64f_6x6(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride1, double* dst, uint32_t dstStride0, uint32_t dstStride1,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_64f_6x6_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride1, uint32_t src2Stride2, double* dst,
+    uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_64f_6x6_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_64f_6x6_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_64f_6x6_L(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const double* src2, uint32_t src2Stride1, double* const* dst, uint32_t dstShift,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmT_64f_6x6_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* src2, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+
+/* mama */
+TENK_API tenkStatus tenkAdd_mama_32f(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, float* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_32f_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t width,
+    uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_32f_P(const float* const* src1, uint32_t src1Shift, const float* const* src2,
+    uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t width, uint32_t height,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_32f_PS2(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride0,
+    const float* const* src2, uint32_t src2Shift, uint32_t src2Stride0, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride0, uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_32f_L(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const float* const* src2, uint32_t src2Shift, uint32_t src2Stride1, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride1, uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_32f_LS2(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    uint32_t src2Stride2, float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_32f_3x3(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, float* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_32f_3x3_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_32f_3x3_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_32f_3x3_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_32f_3x3_L(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const float* const* src2, uint32_t src2Shift, uint32_t src2Stride1, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_32f_3x3_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const float* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, float* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_32f_4x4(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, float* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_32f_4x4_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_32f_4x4_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_32f_4x4_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_32f_4x4_L(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const float* const* src2, uint32_t src2Shift, uint32_t src2Stride1, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_32f_4x4_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const float* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, float* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_32f_5x5(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, float* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_32f_5x5_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_32f_5x5_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_32f_5x5_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_32f_5x5_L(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const float* const* src2, uint32_t src2Shift, uint32_t src2Stride1, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_32f_5x5_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const float* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, float* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_32f_6x6(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, float* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_32f_6x6_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_32f_6x6_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_32f_6x6_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_32f_6x6_L(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const float* const* src2, uint32_t src2Shift, uint32_t src2Stride1, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_32f_6x6_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const float* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, float* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_64f(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride0, uint32_t src2Stride1, double* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_64f_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride0, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_64f_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t width,
+    uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_64f_PS2(const double* const* src1, uint32_t src1Shift, uint32_t src1Stride0,
+    const double* const* src2, uint32_t src2Shift, uint32_t src2Stride0, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride0, uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_64f_L(const double* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const double* const* src2, uint32_t src2Shift, uint32_t src2Stride1, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride1, uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_64f_LS2(const double* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_64f_3x3(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride0, uint32_t src2Stride1, double* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_64f_3x3_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride0, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_64f_3x3_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_64f_3x3_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_64f_3x3_L(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_64f_3x3_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_64f_4x4(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride0, uint32_t src2Stride1, double* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_64f_4x4_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride0, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_64f_4x4_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_64f_4x4_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_64f_4x4_L(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_64f_4x4_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_64f_5x5(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride0, uint32_t src2Stride1, double* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_64f_5x5_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride0, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_64f_5x5_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_64f_5x5_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_64f_5x5_L(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_64f_5x5_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_64f_6x6(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride0, uint32_t src2Stride1, double* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_64f_6x6_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride0, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_64f_6x6_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_64f_6x6_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_64f_6x6_L(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mama_64f_6x6_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+
+/* maTma */
+TENK_API tenkStatus tenkAdd_maTma_32f(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, float* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_32f_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t width,
+    uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_32f_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t width,
+    uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_32f_PS2(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride0,
+    const float* const* src2, uint32_t src2Shift, uint32_t src2Stride0, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride0, uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_32f_L(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const float* const* src2, uint32_t src2Shift, uint32_t src2Stride1, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride1, uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_32f_LS2(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    uint32_t src2Stride2, float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_32f_3x3(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, float* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_32f_3x3_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_32f_3x3_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_32f_3x3_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_32f_3x3_L(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_32f_3x3_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const float* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, float* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_32f_4x4(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, float* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_32f_4x4_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_32f_4x4_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_32f_4x4_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_32f_4x4_L(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_32f_4x4_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const float* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, float* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_32f_5x5(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, float* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_32f_5x5_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_32f_5x5_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_32f_5x5_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_32f_5x5_L(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_32f_5x5_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const float* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, float* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_32f_6x6(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, float* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_32f_6x6_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_32f_6x6_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_32f_6x6_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_32f_6x6_L(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_32f_6x6_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const float* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, float* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_64f(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride0, uint32_t src2Stride1, double* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_64f_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride0, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_64f_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t width,
+    uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_64f_PS2(const double* const* src1, uint32_t src1Shift, uint32_t src1Stride0,
+    const double* const* src2, uint32_t src2Shift, uint32_t src2Stride0, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride0, uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_64f_L(const double* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const double* const* src2, uint32_t src2Shift, uint32_t src2Stride1, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride1, uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_64f_LS2(const double* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_64f_3x3(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride0, uint32_t src2Stride1, double* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_64f_3x3_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride0, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_64f_3x3_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_64f_3x3_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_64f_3x3_L(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_64f_3x3_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_64f_4x4(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride0, uint32_t src2Stride1, double* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_64f_4x4_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride0, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_64f_4x4_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_64f_4x4_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_64f_4x4_L(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_64f_4x4_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_64f_5x5(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride0, uint32_t src2Stride1, double* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_64f_5x5_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride0, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_64f_5x5_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_64f_5x5_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_64f_5x5_L(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_64f_5x5_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_64f_6x6(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride0, uint32_t src2Stride1, double* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_64f_6x6_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride0, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_64f_6x6_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_64f_6x6_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_64f_6x6_L(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTma_64f_6x6_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+
+/* mamaT */
+TENK_API tenkStatus tenkAdd_mamaT_32f(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, float* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_32f_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t width,
+    uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_32f_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t width,
+    uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_32f_PS2(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride0,
+    const float* const* src2, uint32_t src2Shift, uint32_t src2Stride0, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride0, uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_32f_L(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const float* const* src2, uint32_t src2Shift, uint32_t src2Stride1, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride1, uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_32f_LS2(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    uint32_t src2Stride2, float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_32f_3x3(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, float* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_32f_3x3_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_32f_3x3_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_32f_3x3_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_32f_3x3_L(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_32f_3x3_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const float* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, float* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_32f_4x4(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, float* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_32f_4x4_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_32f_4x4_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_32f_4x4_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_32f_4x4_L(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_32f_4x4_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const float* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, float* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_32f_5x5(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, float* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_32f_5x5_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_32f_5x5_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_32f_5x5_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_32f_5x5_L(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_32f_5x5_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const float* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, float* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_32f_6x6(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, float* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_32f_6x6_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_32f_6x6_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_32f_6x6_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_32f_6x6_L(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_32f_6x6_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const float* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, float* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_64f(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride0, uint32_t src2Stride1, double* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_64f_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride0, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_64f_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t width,
+    uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_64f_PS2(const double* const* src1, uint32_t src1Shift, uint32_t src1Stride0,
+    const double* const* src2, uint32_t src2Shift, uint32_t src2Stride0, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride0, uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_64f_L(const double* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const double* const* src2, uint32_t src2Shift, uint32_t src2Stride1, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride1, uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_64f_LS2(const double* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_64f_3x3(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride0, uint32_t src2Stride1, double* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_64f_3x3_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride0, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_64f_3x3_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_64f_3x3_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_64f_3x3_L(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_64f_3x3_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_64f_4x4(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride0, uint32_t src2Stride1, double* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_64f_4x4_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride0, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_64f_4x4_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_64f_4x4_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_64f_4x4_L(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_64f_4x4_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_64f_5x5(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride0, uint32_t src2Stride1, double* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_64f_5x5_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride0, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_64f_5x5_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_64f_5x5_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_64f_5x5_L(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_64f_5x5_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_64f_6x6(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride0, uint32_t src2Stride1, double* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_64f_6x6_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride0, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_64f_6x6_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_64f_6x6_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_64f_6x6_L(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_mamaT_64f_6x6_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+
+/* maTmaT */
+TENK_API tenkStatus tenkAdd_maTmaT_32f(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, float* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_32f_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t width,
+    uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_32f_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t width,
+    uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_32f_PS2(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride0,
+    const float* const* src2, uint32_t src2Shift, uint32_t src2Stride0, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride0, uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_32f_L(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const float* const* src2, uint32_t src2Shift, uint32_t src2Stride1, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride1, uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_32f_LS2(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    uint32_t src2Stride2, float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_32f_3x3(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, float* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_32f_3x3_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_32f_3x3_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_32f_3x3_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_32f_3x3_L(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_32f_3x3_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const float* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, float* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_32f_4x4(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, float* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_32f_4x4_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_32f_4x4_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_32f_4x4_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_32f_4x4_L(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_32f_4x4_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const float* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, float* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_32f_5x5(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, float* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_32f_5x5_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_32f_5x5_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_32f_5x5_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_32f_5x5_L(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_32f_5x5_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const float* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, float* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_32f_6x6(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, float* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_32f_6x6_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride0, uint32_t src2Stride1, uint32_t src2Stride2,
+    float* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_32f_6x6_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_32f_6x6_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_32f_6x6_L(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_32f_6x6_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const float* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, float* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_64f(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride0, uint32_t src2Stride1, double* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_64f_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride0, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_64f_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t width,
+    uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_64f_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t width, uint32_t height,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_64f_L(const double* const* src1, uint32_t src1Shift, uint32_t src1Stride1,
+    const double* const* src2, uint32_t src2Shift, uint32_t src2Stride1, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride1, uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_64f_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t width, uint32_t height, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_64f_3x3(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride0, uint32_t src2Stride1, double* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_64f_3x3_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride0, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_64f_3x3_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_64f_3x3_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_64f_3x3_L(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_64f_3x3_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_64f_4x4(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride0, uint32_t src2Stride1, double* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_64f_4x4_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride0, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_64f_4x4_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_64f_4x4_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_64f_4x4_L(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_64f_4x4_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_64f_5x5(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride0, uint32_t src2Stride1, double* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_64f_5x5_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride0, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_64f_5x5_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_64f_5x5_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_64f_5x5_L(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_64f_5x5_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_64f_6x6(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    const double* src2, uint32_t src2Stride0, uint32_t src2Stride1, double* dst, uint32_t dstStride0,
+    uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_64f_6x6_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride1,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride0, uint32_t src2Stride1,
+    uint32_t src2Stride2, double* dst, uint32_t dstStride0, uint32_t dstStride1, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_64f_6x6_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_64f_6x6_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_64f_6x6_L(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride1,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride1, uint32_t count);
+TENK_API tenkStatus tenkAdd_maTmaT_64f_6x6_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride1, uint32_t src1Stride2, const double* const* src2, uint32_t src2Shift,
+    uint32_t src2Stride1, uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride1,
+    uint32_t dstStride2, uint32_t count);
+
+/* vv */
+TENK_API tenkStatus tenkAdd_vv_32f(const float* src1, const float* src2, float* dst, uint32_t length);
+TENK_API tenkStatus tenkAdd_vv_32f_S2(const float* src1, uint32_t src1Stride2, const float* src2,
+    uint32_t src2Stride2, float* dst, uint32_t dstStride2, uint32_t length);
+TENK_API tenkStatus tenkAdd_vv_32f_P(const float* const* src1, uint32_t src1Shift, const float* const* src2,
+    uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t length);
+TENK_API tenkStatus tenkAdd_vv_32f_3x1(const float* src1, const float* src2, float* dst);
+TENK_API tenkStatus tenkAdd_vv_32f_3x1_S2(const float* src1, uint32_t src1Stride2, const float* src2,
+    uint32_t src2Stride2, float* dst, uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_vv_32f_3x1_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_vv_32f_4x1(const float* src1, const float* src2, float* dst);
+TENK_API tenkStatus tenkAdd_vv_32f_4x1_S2(const float* src1, uint32_t src1Stride2, const float* src2,
+    uint32_t src2Stride2, float* dst, uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_vv_32f_4x1_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_vv_32f_5x1(const float* src1, const float* src2, float* dst);
+TENK_API tenkStatus tenkAdd_vv_32f_5x1_S2(const float* src1, uint32_t src1Stride2, const float* src2,
+    uint32_t src2Stride2, float* dst, uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_vv_32f_5x1_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_vv_32f_6x1(const float* src1, const float* src2, float* dst);
+TENK_API tenkStatus tenkAdd_vv_32f_6x1_S2(const float* src1, uint32_t src1Stride2, const float* src2,
+    uint32_t src2Stride2, float* dst, uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_vv_32f_6x1_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_vv_64f(const double* src1, const double* src2, double* dst, uint32_t length);
+TENK_API tenkStatus tenkAdd_vv_64f_S2(const double* src1, uint32_t src1Stride2, const double* src2,
+    uint32_t src2Stride2, double* dst, uint32_t dstStride2, uint32_t length);
+TENK_API tenkStatus tenkAdd_vv_64f_P(const double* const* src1, uint32_t src1Shift, const double* const* src2,
+    uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t length);
+TENK_API tenkStatus tenkAdd_vv_64f_3x1(const double* src1, const double* src2, double* dst);
+TENK_API tenkStatus tenkAdd_vv_64f_3x1_S2(const double* src1, uint32_t src1Stride2, const double* src2,
+    uint32_t src2Stride2, double* dst, uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_vv_64f_3x1_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_vv_64f_4x1(const double* src1, const double* src2, double* dst);
+TENK_API tenkStatus tenkAdd_vv_64f_4x1_S2(const double* src1, uint32_t src1Stride2, const double* src2,
+    uint32_t src2Stride2, double* dst, uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_vv_64f_4x1_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_vv_64f_5x1(const double* src1, const double* src2, double* dst);
+TENK_API tenkStatus tenkAdd_vv_64f_5x1_S2(const double* src1, uint32_t src1Stride2, const double* src2,
+    uint32_t src2Stride2, double* dst, uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_vv_64f_5x1_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_vv_64f_6x1(const double* src1, const double* src2, double* dst);
+TENK_API tenkStatus tenkAdd_vv_64f_6x1_S2(const double* src1, uint32_t src1Stride2, const double* src2,
+    uint32_t src2Stride2, double* dst, uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_vv_64f_6x1_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift);
+
+/* vav */
+TENK_API tenkStatus tenkAdd_vav_32f(const float* src1, uint32_t src1Stride0, const float* src2, float* dst,
+    uint32_t dstStride0, uint32_t length, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_32f_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride2,
+    const float* src2, uint32_t src2Stride2, float* dst, uint32_t dstStride0, uint32_t dstStride2,
+    uint32_t length, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_32f_P(const float* const* src1, uint32_t src1Shift, const float* const* src2,
+    uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t length, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_32f_PS2(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride0,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t dstStride0,
+    uint32_t length, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_32f_L(const float* const* src1, uint32_t src1Shift, const float* src2,
+    float* const* dst, uint32_t dstShift, uint32_t length, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_32f_LS2(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride2,
+    const float* src2, uint32_t src2Stride2, float* const* dst, uint32_t dstShift, uint32_t dstStride2,
+    uint32_t length, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_32f_3x1(const float* src1, uint32_t src1Stride0, const float* src2,
+    float* dst, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_32f_3x1_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride2,
+    const float* src2, uint32_t src2Stride2, float* dst, uint32_t dstStride0, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_32f_3x1_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_32f_3x1_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_32f_3x1_L(const float* const* src1, uint32_t src1Shift, const float* src2,
+    float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_32f_3x1_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride2, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_32f_4x1(const float* src1, uint32_t src1Stride0, const float* src2,
+    float* dst, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_32f_4x1_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride2,
+    const float* src2, uint32_t src2Stride2, float* dst, uint32_t dstStride0, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_32f_4x1_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_32f_4x1_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_32f_4x1_L(const float* const* src1, uint32_t src1Shift, const float* src2,
+    float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_32f_4x1_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride2, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_32f_5x1(const float* src1, uint32_t src1Stride0, const float* src2,
+    float* dst, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_32f_5x1_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride2,
+    const float* src2, uint32_t src2Stride2, float* dst, uint32_t dstStride0, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_32f_5x1_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_32f_5x1_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_32f_5x1_L(const float* const* src1, uint32_t src1Shift, const float* src2,
+    float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_32f_5x1_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride2, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_32f_6x1(const float* src1, uint32_t src1Stride0, const float* src2,
+    float* dst, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_32f_6x1_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride2,
+    const float* src2, uint32_t src2Stride2, float* dst, uint32_t dstStride0, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_32f_6x1_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_32f_6x1_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_32f_6x1_L(const float* const* src1, uint32_t src1Shift, const float* src2,
+    float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_32f_6x1_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride2, const float* src2, uint32_t src2Stride2, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_64f(const double* src1, uint32_t src1Stride0, const double* src2, double* dst,
+    uint32_t dstStride0, uint32_t length, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_64f_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride2,
+    const double* src2, uint32_t src2Stride2, double* dst, uint32_t dstStride0, uint32_t dstStride2,
+    uint32_t length, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_64f_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t length,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_64f_PS2(const double* const* src1, uint32_t src1Shift, uint32_t src1Stride0,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t dstStride0,
+    uint32_t length, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_64f_L(const double* const* src1, uint32_t src1Shift, const double* src2,
+    double* const* dst, uint32_t dstShift, uint32_t length, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_64f_LS2(const double* const* src1, uint32_t src1Shift, uint32_t src1Stride2,
+    const double* src2, uint32_t src2Stride2, double* const* dst, uint32_t dstShift, uint32_t dstStride2,
+    uint32_t length, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_64f_3x1(const double* src1, uint32_t src1Stride0, const double* src2,
+    double* dst, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_64f_3x1_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride2,
+    const double* src2, uint32_t src2Stride2, double* dst, uint32_t dstStride0, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_64f_3x1_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_64f_3x1_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_64f_3x1_L(const double* const* src1, uint32_t src1Shift, const double* src2,
+    double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_64f_3x1_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride2, double* const* dst, uint32_t dstShift,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_64f_4x1(const double* src1, uint32_t src1Stride0, const double* src2,
+    double* dst, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_64f_4x1_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride2,
+    const double* src2, uint32_t src2Stride2, double* dst, uint32_t dstStride0, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_64f_4x1_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_64f_4x1_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_64f_4x1_L(const double* const* src1, uint32_t src1Shift, const double* src2,
+    double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_64f_4x1_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride2, double* const* dst, uint32_t dstShift,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_64f_5x1(const double* src1, uint32_t src1Stride0, const double* src2,
+    double* dst, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_64f_5x1_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride2,
+    const double* src2, uint32_t src2Stride2, double* dst, uint32_t dstStride0, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_64f_5x1_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_64f_5x1_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_64f_5x1_L(const double* const* src1, uint32_t src1Shift, const double* src2,
+    double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_64f_5x1_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride2, double* const* dst, uint32_t dstShift,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_64f_6x1(const double* src1, uint32_t src1Stride0, const double* src2,
+    double* dst, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_64f_6x1_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride2,
+    const double* src2, uint32_t src2Stride2, double* dst, uint32_t dstStride0, uint32_t dstStride2,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_64f_6x1_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_64f_6x1_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_64f_6x1_L(const double* const* src1, uint32_t src1Shift, const double* src2,
+    double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vav_64f_6x1_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride2, const double* src2, uint32_t src2Stride2, double* const* dst, uint32_t dstShift,
+    uint32_t dstStride2, uint32_t count);
+
+/* vava */
+TENK_API tenkStatus tenkAdd_vava_32f(const float* src1, uint32_t src1Stride0, const float* src2,
+    uint32_t src2Stride0, float* dst, uint32_t dstStride0, uint32_t length, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_32f_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride2,
+    const float* src2, uint32_t src2Stride0, uint32_t src2Stride2, float* dst, uint32_t dstStride0,
+    uint32_t dstStride2, uint32_t length, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_32f_P(const float* const* src1, uint32_t src1Shift, const float* const* src2,
+    uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t length, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_32f_PS2(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride0,
+    const float* const* src2, uint32_t src2Shift, uint32_t src2Stride0, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride0, uint32_t length, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_32f_L(const float* const* src1, uint32_t src1Shift, const float* const* src2,
+    uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t length, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_32f_LS2(const float* const* src1, uint32_t src1Shift, uint32_t src1Stride2,
+    const float* const* src2, uint32_t src2Shift, uint32_t src2Stride2, float* const* dst, uint32_t dstShift,
+    uint32_t dstStride2, uint32_t length, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_32f_3x1(const float* src1, uint32_t src1Stride0, const float* src2,
+    uint32_t src2Stride0, float* dst, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_32f_3x1_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride2,
+    const float* src2, uint32_t src2Stride0, uint32_t src2Stride2, float* dst, uint32_t dstStride0,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_32f_3x1_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_32f_3x1_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_32f_3x1_L(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_32f_3x1_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride2, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride2,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_32f_4x1(const float* src1, uint32_t src1Stride0, const float* src2,
+    uint32_t src2Stride0, float* dst, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_32f_4x1_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride2,
+    const float* src2, uint32_t src2Stride0, uint32_t src2Stride2, float* dst, uint32_t dstStride0,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_32f_4x1_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_32f_4x1_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_32f_4x1_L(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_32f_4x1_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride2, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride2,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_32f_5x1(const float* src1, uint32_t src1Stride0, const float* src2,
+    uint32_t src2Stride0, float* dst, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_32f_5x1_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride2,
+    const float* src2, uint32_t src2Stride0, uint32_t src2Stride2, float* dst, uint32_t dstStride0,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_32f_5x1_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_32f_5x1_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_32f_5x1_L(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_32f_5x1_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride2, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride2,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_32f_6x1(const float* src1, uint32_t src1Stride0, const float* src2,
+    uint32_t src2Stride0, float* dst, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_32f_6x1_S2(const float* src1, uint32_t src1Stride0, uint32_t src1Stride2,
+    const float* src2, uint32_t src2Stride0, uint32_t src2Stride2, float* dst, uint32_t dstStride0,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_32f_6x1_P(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_32f_6x1_PS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_32f_6x1_L(const float* const* src1, uint32_t src1Shift,
+    const float* const* src2, uint32_t src2Shift, float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_32f_6x1_LS2(const float* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride2, const float* const* src2, uint32_t src2Shift, uint32_t src2Stride2,
+    float* const* dst, uint32_t dstShift, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_64f(const double* src1, uint32_t src1Stride0, const double* src2,
+    uint32_t src2Stride0, double* dst, uint32_t dstStride0, uint32_t length, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_64f_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride2,
+    const double* src2, uint32_t src2Stride0, uint32_t src2Stride2, double* dst, uint32_t dstStride0,
+    uint32_t dstStride2, uint32_t length, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_64f_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t length,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_64f_PS2(const double* const* src1, uint32_t src1Shift, uint32_t src1Stride0,
+    const double* const* src2, uint32_t src2Shift, uint32_t src2Stride0, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride0, uint32_t length, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_64f_L(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t length,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_64f_LS2(const double* const* src1, uint32_t src1Shift, uint32_t src1Stride2,
+    const double* const* src2, uint32_t src2Shift, uint32_t src2Stride2, double* const* dst,
+    uint32_t dstShift, uint32_t dstStride2, uint32_t length, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_64f_3x1(const double* src1, uint32_t src1Stride0, const double* src2,
+    uint32_t src2Stride0, double* dst, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_64f_3x1_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride2,
+    const double* src2, uint32_t src2Stride0, uint32_t src2Stride2, double* dst, uint32_t dstStride0,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_64f_3x1_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_64f_3x1_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_64f_3x1_L(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_64f_3x1_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride2, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride2,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_64f_4x1(const double* src1, uint32_t src1Stride0, const double* src2,
+    uint32_t src2Stride0, double* dst, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_64f_4x1_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride2,
+    const double* src2, uint32_t src2Stride0, uint32_t src2Stride2, double* dst, uint32_t dstStride0,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_64f_4x1_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_64f_4x1_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_64f_4x1_L(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_64f_4x1_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride2, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride2,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_64f_5x1(const double* src1, uint32_t src1Stride0, const double* src2,
+    uint32_t src2Stride0, double* dst, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_64f_5x1_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride2,
+    const double* src2, uint32_t src2Stride0, uint32_t src2Stride2, double* dst, uint32_t dstStride0,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_64f_5x1_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_64f_5x1_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_64f_5x1_L(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_64f_5x1_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride2, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride2,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_64f_6x1(const double* src1, uint32_t src1Stride0, const double* src2,
+    uint32_t src2Stride0, double* dst, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_64f_6x1_S2(const double* src1, uint32_t src1Stride0, uint32_t src1Stride2,
+    const double* src2, uint32_t src2Stride0, uint32_t src2Stride2, double* dst, uint32_t dstStride0,
+    uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_64f_6x1_P(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_64f_6x1_PS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride0, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride0,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_64f_6x1_L(const double* const* src1, uint32_t src1Shift,
+    const double* const* src2, uint32_t src2Shift, double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vava_64f_6x1_LS2(const double* const* src1, uint32_t src1Shift,
+    uint32_t src1Stride2, const double* const* src2, uint32_t src2Shift, uint32_t src2Stride2,
+    double* const* dst, uint32_t dstShift, uint32_t dstStride2, uint32_t count);
+
+/* vc */
+TENK_API tenkStatus tenkAdd_vc_32f(const float* src, float value, float* dst, uint32_t length);
+TENK_API tenkStatus tenkAdd_vc_32f_S2(const float* src, uint32_t srcStride2, float value, float* dst,
+    uint32_t dstStride2, uint32_t length);
+TENK_API tenkStatus tenkAdd_vc_32f_P(const float* const* src, uint32_t srcShift, float value,
+    float* const* dst, uint32_t dstShift, uint32_t length);
+TENK_API tenkStatus tenkAdd_vc_32f_3x1(const float* src, float value, float* dst);
+TENK_API tenkStatus tenkAdd_vc_32f_3x1_S2(const float* src, uint32_t srcStride2, float value, float* dst,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_vc_32f_3x1_P(const float* const* src, uint32_t srcShift, float value,
+    float* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_vc_32f_4x1(const float* src, float value, float* dst);
+TENK_API tenkStatus tenkAdd_vc_32f_4x1_S2(const float* src, uint32_t srcStride2, float value, float* dst,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_vc_32f_4x1_P(const float* const* src, uint32_t srcShift, float value,
+    float* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_vc_32f_5x1(const float* src, float value, float* dst);
+TENK_API tenkStatus tenkAdd_vc_32f_5x1_S2(const float* src, uint32_t srcStride2, float value, float* dst,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_vc_32f_5x1_P(const float* const* src, uint32_t srcShift, float value,
+    float* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_vc_32f_6x1(const float* src, float value, float* dst);
+TENK_API tenkStatus tenkAdd_vc_32f_6x1_S2(const float* src, uint32_t srcStride2, float value, float* dst,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_vc_32f_6x1_P(const float* const* src, uint32_t srcShift, float value,
+    float* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_vc_64f(const double* src, double value, double* dst, uint32_t length);
+TENK_API tenkStatus tenkAdd_vc_64f_S2(const double* src, uint32_t srcStride2, double value, double* dst,
+    uint32_t dstStride2, uint32_t length);
+TENK_API tenkStatus tenkAdd_vc_64f_P(const double* const* src, uint32_t srcShift, double value,
+    double* const* dst, uint32_t dstShift, uint32_t length);
+TENK_API tenkStatus tenkAdd_vc_64f_3x1(const double* src, double value, double* dst);
+TENK_API tenkStatus tenkAdd_vc_64f_3x1_S2(const double* src, uint32_t srcStride2, double value, double* dst,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_vc_64f_3x1_P(const double* const* src, uint32_t srcShift, double value,
+    double* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_vc_64f_4x1(const double* src, double value, double* dst);
+TENK_API tenkStatus tenkAdd_vc_64f_4x1_S2(const double* src, uint32_t srcStride2, double value, double* dst,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_vc_64f_4x1_P(const double* const* src, uint32_t srcShift, double value,
+    double* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_vc_64f_5x1(const double* src, double value, double* dst);
+TENK_API tenkStatus tenkAdd_vc_64f_5x1_S2(const double* src, uint32_t srcStride2, double value, double* dst,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_vc_64f_5x1_P(const double* const* src, uint32_t srcShift, double value,
+    double* const* dst, uint32_t dstShift);
+TENK_API tenkStatus tenkAdd_vc_64f_6x1(const double* src, double value, double* dst);
+TENK_API tenkStatus tenkAdd_vc_64f_6x1_S2(const double* src, uint32_t srcStride2, double value, double* dst,
+    uint32_t dstStride2);
+TENK_API tenkStatus tenkAdd_vc_64f_6x1_P(const double* const* src, uint32_t srcShift, double value,
+    double* const* dst, uint32_t dstShift);
+
+/* vac */
+TENK_API tenkStatus tenkAdd_vac_32f(const float* src, uint32_t srcStride0, float value, float* dst,
+    uint32_t dstStride0, uint32_t length, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_32f_S2(const float* src, uint32_t srcStride0, uint32_t srcStride2,
+    float value, float* dst, uint32_t dstStride0, uint32_t dstStride2, uint32_t length, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_32f_P(const float* const* src, uint32_t srcShift, float value,
+    float* const* dst, uint32_t dstShift, uint32_t length, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_32f_PS2(const float* const* src, uint32_t srcShift, uint32_t srcStride0,
+    float value, float* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t length, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_32f_L(const float* const* src, uint32_t srcShift, float value,
+    float* const* dst, uint32_t dstShift, uint32_t length, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_32f_LS2(const float* const* src, uint32_t srcShift, uint32_t srcStride2,
+    float value, float* const* dst, uint32_t dstShift, uint32_t dstStride2, uint32_t length, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_32f_3x1(const float* src, uint32_t srcStride0, float value, float* dst,
+    uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_32f_3x1_S2(const float* src, uint32_t srcStride0, uint32_t srcStride2,
+    float value, float* dst, uint32_t dstStride0, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_32f_3x1_P(const float* const* src, uint32_t srcShift, float value,
+    float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_32f_3x1_PS2(const float* const* src, uint32_t srcShift, uint32_t srcStride0,
+    float value, float* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_32f_3x1_L(const float* const* src, uint32_t srcShift, float value,
+    float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_32f_3x1_LS2(const float* const* src, uint32_t srcShift, uint32_t srcStride2,
+    float value, float* const* dst, uint32_t dstShift, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_32f_4x1(const float* src, uint32_t srcStride0, float value, float* dst,
+    uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_32f_4x1_S2(const float* src, uint32_t srcStride0, uint32_t srcStride2,
+    float value, float* dst, uint32_t dstStride0, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_32f_4x1_P(const float* const* src, uint32_t srcShift, float value,
+    float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_32f_4x1_PS2(const float* const* src, uint32_t srcShift, uint32_t srcStride0,
+    float value, float* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_32f_4x1_L(const float* const* src, uint32_t srcShift, float value,
+    float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_32f_4x1_LS2(const float* const* src, uint32_t srcShift, uint32_t srcStride2,
+    float value, float* const* dst, uint32_t dstShift, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_32f_5x1(const float* src, uint32_t srcStride0, float value, float* dst,
+    uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_32f_5x1_S2(const float* src, uint32_t srcStride0, uint32_t srcStride2,
+    float value, float* dst, uint32_t dstStride0, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_32f_5x1_P(const float* const* src, uint32_t srcShift, float value,
+    float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_32f_5x1_PS2(const float* const* src, uint32_t srcShift, uint32_t srcStride0,
+    float value, float* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_32f_5x1_L(const float* const* src, uint32_t srcShift, float value,
+    float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_32f_5x1_LS2(const float* const* src, uint32_t srcShift, uint32_t srcStride2,
+    float value, float* const* dst, uint32_t dstShift, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_32f_6x1(const float* src, uint32_t srcStride0, float value, float* dst,
+    uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_32f_6x1_S2(const float* src, uint32_t srcStride0, uint32_t srcStride2,
+    float value, float* dst, uint32_t dstStride0, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_32f_6x1_P(const float* const* src, uint32_t srcShift, float value,
+    float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_32f_6x1_PS2(const float* const* src, uint32_t srcShift, uint32_t srcStride0,
+    float value, float* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_32f_6x1_L(const float* const* src, uint32_t srcShift, float value,
+    float* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_32f_6x1_LS2(const float* const* src, uint32_t srcShift, uint32_t srcStride2,
+    float value, float* const* dst, uint32_t dstShift, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_64f(const double* src, uint32_t srcStride0, double value, double* dst,
+    uint32_t dstStride0, uint32_t length, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_64f_S2(const double* src, uint32_t srcStride0, uint32_t srcStride2,
+    double value, double* dst, uint32_t dstStride0, uint32_t dstStride2, uint32_t length, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_64f_P(const double* const* src, uint32_t srcShift, double value,
+    double* const* dst, uint32_t dstShift, uint32_t length, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_64f_PS2(const double* const* src, uint32_t srcShift, uint32_t srcStride0,
+    double value, double* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t length,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_64f_L(const double* const* src, uint32_t srcShift, double value,
+    double* const* dst, uint32_t dstShift, uint32_t length, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_64f_LS2(const double* const* src, uint32_t srcShift, uint32_t srcStride2,
+    double value, double* const* dst, uint32_t dstShift, uint32_t dstStride2, uint32_t length,
+    uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_64f_3x1(const double* src, uint32_t srcStride0, double value, double* dst,
+    uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_64f_3x1_S2(const double* src, uint32_t srcStride0, uint32_t srcStride2,
+    double value, double* dst, uint32_t dstStride0, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_64f_3x1_P(const double* const* src, uint32_t srcShift, double value,
+    double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_64f_3x1_PS2(const double* const* src, uint32_t srcShift, uint32_t srcStride0,
+    double value, double* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_64f_3x1_L(const double* const* src, uint32_t srcShift, double value,
+    double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_64f_3x1_LS2(const double* const* src, uint32_t srcShift, uint32_t srcStride2,
+    double value, double* const* dst, uint32_t dstShift, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_64f_4x1(const double* src, uint32_t srcStride0, double value, double* dst,
+    uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_64f_4x1_S2(const double* src, uint32_t srcStride0, uint32_t srcStride2,
+    double value, double* dst, uint32_t dstStride0, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_64f_4x1_P(const double* const* src, uint32_t srcShift, double value,
+    double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_64f_4x1_PS2(const double* const* src, uint32_t srcShift, uint32_t srcStride0,
+    double value, double* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_64f_4x1_L(const double* const* src, uint32_t srcShift, double value,
+    double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_64f_4x1_LS2(const double* const* src, uint32_t srcShift, uint32_t srcStride2,
+    double value, double* const* dst, uint32_t dstShift, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_64f_5x1(const double* src, uint32_t srcStride0, double value, double* dst,
+    uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_64f_5x1_S2(const double* src, uint32_t srcStride0, uint32_t srcStride2,
+    double value, double* dst, uint32_t dstStride0, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_64f_5x1_P(const double* const* src, uint32_t srcShift, double value,
+    double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_64f_5x1_PS2(const double* const* src, uint32_t srcShift, uint32_t srcStride0,
+    double value, double* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_64f_5x1_L(const double* const* src, uint32_t srcShift, double value,
+    double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_64f_5x1_LS2(const double* const* src, uint32_t srcShift, uint32_t srcStride2,
+    double value, double* const* dst, uint32_t dstShift, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_64f_6x1(const double* src, uint32_t srcStride0, double value, double* dst,
+    uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_64f_6x1_S2(const double* src, uint32_t srcStride0, uint32_t srcStride2,
+    double value, double* dst, uint32_t dstStride0, uint32_t dstStride2, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_64f_6x1_P(const double* const* src, uint32_t srcShift, double value,
+    double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_64f_6x1_PS2(const double* const* src, uint32_t srcShift, uint32_t srcStride0,
+    double value, double* const* dst, uint32_t dstShift, uint32_t dstStride0, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_64f_6x1_L(const double* const* src, uint32_t srcShift, double value,
+    double* const* dst, uint32_t dstShift, uint32_t count);
+TENK_API tenkStatus tenkAdd_vac_64f_6x1_LS2(const double* const* src, uint32_t srcShift, uint32_t srcStride2,
+    double value, double* const* dst, uint32_t dstShift, uint32_t dstStride2, uint32_t count);
+/* End of what tools/generate makes. */
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif

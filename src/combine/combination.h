@@ -1,0 +1,103 @@
+// What Saxpy and LComb share: dst = f(src1, src2), element by element, on vectors in every layout.
+//
+// Objects go in ascending order and the elements of an object too, and the result is that of this plain loop
+// whichever way the operands overlap. It goes in vectors where nobody can tell.
+#pragma once
+
+#include "frame/checks.h"
+#include "frame/long_vector.h"
+
+namespace tenk::combine {
+
+// The destination starts inside the source, but not at its start: the loop writes elements before it reads
+// them.
+TENK_INLINE bool startsInside(Address dst, Address src, std::size_t bytes)
+{
+    return dst - src - 1 < bytes - 1;
+}
+
+// n adjacent elements.
+template <unsigned n, typename T, typename F>
+TENK_INLINE void elements(F f, Address dst, Address x, Address y)
+{
+    using R = Row<T, n>;
+    if (startsInside(dst, x, n * sizeof(T)) || startsInside(dst, y, n * sizeof(T)))
+        each<n>([&](auto j) TENK_LAMBDA {
+            store<T>(dst + j * sizeof(T), f(load<T>(x + j * sizeof(T)), load<T>(y + j * sizeof(T))));
+        });
+    else
+        R::combine(R::load(x), R::load(y), f).store(dst);
+}
+
+// The same with a second operand that has been read before.
+template <unsigned n, typename T, typename F>
+TENK_INLINE void elements(F f, Address dst, Address x, const Row<T, n>& y)
+{
+    using R = Row<T, n>;
+    if (startsInside(dst, x, n * sizeof(T)))
+        each<n>([&](auto j)
+                    TENK_LAMBDA { store<T>(dst + j * sizeof(T), f(load<T>(x + j * sizeof(T)), y.get(j))); });
+    else
+        R::combine(R::load(x), y, f).store(dst);
+}
+
+// Arrays of adjacent elements without a gap between the objects are one long vector.
+template <Member m>
+TENK_INLINE bool isOneRun(const Source<m>& src1, const Source<m, 1>& src2, const Destination<m>& dst,
+                          Size<m> length)
+{
+    if constexpr (m.layout == Layout::Standard && m.source(0).array && m.source(1).array) {
+        const std::size_t object = std::size_t{length} * sizeof(Element<m>);
+        return static_cast<Address>(src1.stride0) == object && static_cast<Address>(src2.stride0) == object &&
+               static_cast<Address>(dst.stride0) == object;
+    }
+    return false;
+}
+
+// The arguments in the order in which all members test them, but for what is tested object by object.
+template <Member m>
+TENK_INLINE tenkStatus validate(const Source<m>& src1, const Source<m, 1>& src2, const Destination<m>& dst,
+                                Size<m> length)
+{
+    if (anyNull(src1, src2, dst))
+        return tenkNullPointerError;
+    if (anyZero(length))
+        return tenkSizeError;
+    if (m.batch() && (anyNullEntry(src1, length) || anyNullEntry(src2, length) || anyNullEntry(dst, length)))
+        return tenkNullPointerError;
+    return tenkOk;
+}
+
+template <Member m, typename F>
+TENK_INLINE tenkStatus combination(F f, Source<m> src1, Source<m, 1> src2, Destination<m> dst, Size<m> length,
+                                   Count<m> count)
+{
+    using T = Element<m>;
+    if (isOneRun<m>(src1, src2, dst, length)) {
+        longVector<T>(f, std::size_t{length} * count, dst.p, src1.p, src2.p);
+        return tenkOk;
+    }
+    for (std::size_t k = 0; k < count; ++k) {
+        if (anyNullObject(k, src1, src2, dst))
+            return tenkNullPointerError;
+        const auto x = src1.object(k, length);
+        const auto y = src2.object(k, length);
+        const auto to = dst.object(k, length);
+        if constexpr (isDense(m.layout) && m.general()) {
+            longVector<T>(f, length, to.start, x.start, y.start);
+        } else if constexpr (isDense(m.layout)) {
+            elements<m.size, T>(f, to.start, x.start, y.start);
+        } else {
+            for (std::size_t j = 0; j < length; ++j) {
+                // A single pair behind tables: each entry is tested when its element is due.
+                if constexpr (isTable(m.layout) && !m.batch())
+                    if (x.isNull(0, j) || y.isNull(0, j) || to.isNull(0, j))
+                        return tenkNullPointerError;
+                store<T>(to.at(0, j), f(load<T>(x.at(0, j)), load<T>(y.at(0, j))));
+            }
+        }
+    }
+    return tenkOk;
+}
+
+} // namespace tenk::combine

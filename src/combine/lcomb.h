@@ -1,0 +1,42 @@
+// LComb: src1 value1 + src2 value2, element by element. Both products are rounded to the element type, then
+// the sum.
+#pragma once
+
+#include "combine/combination.h"
+
+namespace tenk {
+
+// The products of the single second vector are formed once, before the first object and even if there is
+// none: a destination that overlaps it changes nothing.
+consteval bool formsProductsOnce(Member m)
+{
+    const bool single = m.source(0).array && !m.source(1).array;
+    return single && ((m.layout == Layout::Standard && m.size >= 4) || m == "tenkLComb_vav_32f_4x1_L" ||
+                      m == "tenkLComb_vav_64f_4x1_L");
+}
+
+template <Member m>
+TENK_INLINE tenkStatus lcomb(Source<m> src1, Element<m> value1, Source<m, 1> src2, Element<m> value2,
+                             Destination<m> dst, Size<m> length, Count<m> count)
+{
+    using T = Element<m>;
+    if (const tenkStatus status = combine::validate<m>(src1, src2, dst, length); status != tenkOk)
+        return status;
+    if constexpr (formsProductsOnce(m)) {
+        using R = Row<T, m.size>;
+        const R products = R::load(src2.object(0, length).start) * R::repeat(value2);
+        const auto f = [value1](auto x, auto product) TENK_LAMBDA { return x * value1 + product; };
+        for (std::size_t k = 0; k < count; ++k) {
+            if (anyNullObject(k, src1, dst))
+                return tenkNullPointerError;
+            combine::elements<m.size, T>(f, dst.object(k, length).start, src1.object(k, length).start,
+                                         products);
+        }
+        return tenkOk;
+    } else {
+        const auto f = [value1, value2](auto x, auto y) TENK_LAMBDA { return x * value1 + y * value2; };
+        return combine::combination<m>(f, src1, src2, dst, length, count);
+    }
+}
+
+} // namespace tenk

@@ -1,0 +1,50 @@
+// Invert of orders 3 to 6. Members whose rows are adjacent in memory compute on packed rows, all others
+// element by element; the two classes differ in method and in what counts as singular, not only in rounding:
+//
+//   order   scalar                                packed 32f                         packed 64f
+//   3       adjugate; band on the determinant     adjugate; determinant == 0         adjugate; reciprocal ==
+//   0 4       adjugate; band on the determinant     adjugate; determinant == 0         adjugate; determinant
+//   == 0 5, 6    blocks of order n - 3 and 3 with      1 or 2 elements eliminated, the    blocks of order 2
+//   and n - 2; a
+//           a search for columns; bands on both   rest as order 4; a search if the   search if the first is
+//           in the determinants                          pivots are in the band             band, the second
+//           as order 3 or 4
+//
+// A NaN is in no band and equals no zero, so it goes through to the result with tenkOk.
+#pragma once
+
+#include "detinv/invert_small_packed_32f.h"
+#include "detinv/invert_small_packed_64f.h"
+#include "detinv/invert_small_scalar.h"
+
+namespace tenk {
+
+consteval bool isPacked(Member m)
+{
+    return isDense(m.layout);
+}
+
+template <Member m>
+TENK_INLINE tenkStatus invertSmall(Source<m> src, Destination<m> dst, Count<m> count)
+{
+    constexpr unsigned n = m.size;
+    if (anyNull(src, dst) || anyNullEntry(src, n * n) || anyNullEntry(dst, n * n))
+        return tenkNullPointerError;
+
+    for (std::size_t k = 0; k < count; ++k) {
+        if (anyNullObject(k, dst, src))
+            return tenkNullPointerError;
+        const auto from = src.object(k, n);
+        const auto to = dst.object(k, n);
+        bool regular;
+        if constexpr (isPacked(m))
+            regular = Packed<Element<m>, n>::invert(from, to);
+        else
+            regular = Scalar<Element<m>, n>::invert(from, to);
+        if (!regular)
+            return tenkSingularError;
+    }
+    return tenkOk;
+}
+
+} // namespace tenk

@@ -1,0 +1,383 @@
+// The inverse of fixed order on packed rows, 32f. Nothing is divided: a reciprocal is the processor's
+// estimate with one Newton step.
+//
+// Orders 5 and 6 eliminate one or two elements and invert the remaining block of order 4; what was eliminated
+// is bordered back on. The tests are the band on the pivots and zero, exactly, on the determinant of the
+// block. Nothing is written before a matrix is known to be regular.
+#pragma once
+
+#include "detinv/column_exchange.h"
+#include "detinv/limits.h"
+
+namespace tenk {
+
+using Quad = Vector<float>;
+
+TENK_INLINE float reciprocalEstimate(float d)
+{
+    return _mm_cvtss_f32(_mm_rcp_ss(_mm_set_ss(d)));
+}
+
+// The Newton step as order 3 takes it, and as the others do.
+TENK_INLINE float refined3(float d)
+{
+    const float x = reciprocalEstimate(d);
+    return (x + x) - ((d * x) * x);
+}
+TENK_INLINE float refined(float d)
+{
+    const float x = reciprocalEstimate(d);
+    return (x + x) - (d * (x * x));
+}
+
+// ---------------------------------------------------------------------------------------------------------------
+// Order 4, as a block in registers
+// ---------------------------------------------------------------------------------------------------------------
+
+struct Block4
+{
+    Quad row[4];
+    Quad column[4];
+};
+
+// Lane j of the result is lane j ^ bits. Exchanges of this kind are even permutations of the columns, so a
+// cofactor comes out with its sign in every lane.
+template <unsigned bits>
+TENK_INLINE Quad exchangeLanes(Quad v)
+{
+    return shuffle<0 ^ bits, 1 ^ bits, 2 ^ bits, 3 ^ bits>(v, v);
+}
+
+// The signed cofactors of each row, each the sum of six products of three elements. In every lane j, with [b]
+// for lane j ^ b, those of row 0 are
+//     r1[1] (r2[2] r3[3] - r2[3] r3[2]) + r3[1] (r1[2] r2[3] - r1[3] r2[2]) - r2[1] (r1[2] r3[3] - r1[3]
+//     r3[2])
+// with the products multiplied out.
+struct Cofactors4
+{
+    Quad row[4];
+
+    TENK_INLINE explicit Cofactors4(const Quad (&r)[4])
+    {
+        Quad next[4]; // r[1]
+        each<4>([&](auto i) TENK_LAMBDA { next[i] = exchangeLanes<1>(r[i]); });
+        struct Products
+        {
+            Quad plus, minus; // a[2] b[3] and a[3] b[2]
+        };
+        const auto products = [&](unsigned a, unsigned b) TENK_LAMBDA {
+            const Quad both = r[a] * next[b];
+            return Products{exchangeLanes<2>(both), exchangeLanes<3>(both)};
+        };
+        const Products p01 = products(0, 1), p02 = products(0, 2), p03 = products(0, 3);
+        const Products p12 = products(1, 2), p13 = products(1, 3), p23 = products(2, 3);
+        const auto triples = [&](unsigned i, const Products& p)
+                                 TENK_LAMBDA { return next[i] * p.plus - next[i] * p.minus; };
+        row[0] = (triples(1, p23) + triples(3, p12)) - triples(2, p13);
+        row[1] = triples(2, p03) - (triples(0, p23) + triples(3, p02));
+        row[2] = (triples(0, p13) + triples(3, p01)) - triples(1, p03);
+        row[3] = triples(1, p02) - (triples(0, p12) + triples(2, p01));
+    }
+
+    TENK_INLINE float determinant(const Quad (&r)[4]) const
+    {
+        const auto product = [&](unsigned i) TENK_LAMBDA { return r[i][0] * row[i][0]; };
+        return (product(3) + product(1)) + (product(2) + product(0));
+    }
+};
+
+// Returns false, with no inverse, if the determinant is 0.
+TENK_INLINE bool invert4(const Quad (&r)[4], Block4& inverse)
+{
+    const Cofactors4 cofactors(r);
+    const float determinant = cofactors.determinant(r);
+    if (determinant == 0)
+        return false;
+    const Quad scale = broadcast(refined(determinant));
+    Block<float, 4> scaled;
+    each<4>([&](auto i)
+                TENK_LAMBDA { scaled.row[i].vector[0] = inverse.column[i] = cofactors.row[i] * scale; });
+    const auto transposed = transpose(scaled);
+    each<4>([&](auto i) TENK_LAMBDA { inverse.row[i] = transposed.row[i].vector[0]; });
+    return true;
+}
+
+// ---------------------------------------------------------------------------------------------------------------
+// Elimination and bordering
+// ---------------------------------------------------------------------------------------------------------------
+
+template <unsigned lane>
+TENK_INLINE Quad spread(Quad v)
+{
+    return shuffle<lane, lane, lane, lane>(v, v);
+}
+
+// The vectors times the lanes of `weights`, summed in order, behind `first` if there is one.
+TENK_INLINE Quad weightedSum(const Quad (&v)[4], Quad weights)
+{
+    Quad sum = v[0] * spread<0>(weights);
+    sum = sum + v[1] * spread<1>(weights);
+    sum = sum + v[2] * spread<2>(weights);
+    return sum + v[3] * spread<3>(weights);
+}
+TENK_INLINE Quad weightedSum(Quad first, const Quad (&v)[4], Quad weights)
+{
+    Quad sum = first + v[0] * spread<0>(weights);
+    sum = sum + v[1] * spread<1>(weights);
+    sum = sum + v[2] * spread<2>(weights);
+    return sum + v[3] * spread<3>(weights);
+}
+TENK_INLINE float laneSum(float first, Quad v)
+{
+    return (((first + v[0]) + v[1]) + v[2]) + v[3];
+}
+
+// Takes multiples of a row from the rows below.
+TENK_INLINE void eliminate(Quad (&rows)[4], Quad factors, Quad pivotRow)
+{
+    rows[0] = rows[0] - spread<0>(factors) * pivotRow;
+    rows[1] = rows[1] - spread<1>(factors) * pivotRow;
+    rows[2] = rows[2] - spread<2>(factors) * pivotRow;
+    rows[3] = rows[3] - spread<3>(factors) * pivotRow;
+}
+
+// The inverse of order 5 around the inverse of the block that was left of order 4.
+struct Bordered
+{
+    float corner; // element (0, 0)
+    Quad above;   // the rest of row 0
+    Quad left;    // the rest of column 0
+
+    // `reciprocal` is that of the pivot, `factors` are the multiples of its row `pivotRow` that were taken
+    // from the others.
+    TENK_INLINE Bordered(const Block4& inverse, float reciprocal, Quad factors, Quad pivotRow)
+    {
+        const Quad weights = broadcast(reciprocal) * pivotRow;
+        const Quad down = weightedSum(inverse.column, factors);
+        corner = laneSum(reciprocal, weights * down);
+        left = -down;
+        above = -weightedSum(inverse.row, weights);
+    }
+};
+
+// The inverse of order 6 around that of order 5: the border again, with an element in front of each vector.
+struct BorderedTwice
+{
+    float corner;
+    float leftFirst, aboveFirst;
+    Quad left, above;
+
+    TENK_INLINE BorderedTwice(const Block4& inverse, const Bordered& inner, float reciprocal,
+                              float factorFirst, Quad factors, float pivotRowFirst, Quad pivotRow)
+    {
+        const float weightFirst = reciprocal * pivotRowFirst;
+        const Quad weights = broadcast(reciprocal) * pivotRow;
+        const float downFirst = laneSum(inner.corner * factorFirst, inner.above * factors);
+        const Quad down = weightedSum(inner.left * broadcast(factorFirst), inverse.column, factors);
+        corner = laneSum(reciprocal + weightFirst * downFirst, weights * down);
+        leftFirst = -downFirst;
+        left = -down;
+        aboveFirst = -laneSum(inner.corner * weightFirst, inner.left * weights);
+        above = -weightedSum(inner.above * broadcast(weightFirst), inverse.row, weights);
+    }
+};
+
+// ---------------------------------------------------------------------------------------------------------------
+// The search for pivots
+// ---------------------------------------------------------------------------------------------------------------
+
+// The largest magnitude of a row. Of equals among the first four the last one wins, and these four go ahead
+// of those behind them; a NaN never wins.
+template <std::size_t n>
+TENK_INLINE std::size_t largest(const float (&row)[n])
+{
+    std::size_t best = 0;
+    float bestMagnitude = -1;
+    const auto look = [&](std::size_t j) TENK_LAMBDA {
+        if (magnitude(row[j]) > bestMagnitude) {
+            best = j;
+            bestMagnitude = magnitude(row[j]);
+        }
+    };
+    for (std::size_t j = 4; j-- > 0;)
+        look(j);
+    for (std::size_t j = 4; j < n; ++j)
+        look(j);
+    return best;
+}
+
+// ---------------------------------------------------------------------------------------------------------------
+// The members
+// ---------------------------------------------------------------------------------------------------------------
+
+template <>
+struct Packed<float, 3>
+{
+    TENK_INLINE static bool invert(const DenseView<float>& from, const DenseView<float>& to)
+    {
+        // Lanes 0 1 1 2 of the rows, and of the rows turned by one and by two elements.
+        const auto a = Block<float, 3>::load(from);
+        Quad once[3], twice[3];
+        each<3>([&](auto i) TENK_LAMBDA {
+            const Quad row = a.row[i].rest;
+            once[i] = shuffle<1, 3, 3, 0>(row, row);
+            twice[i] = shuffle<3, 0, 0, 1>(row, row);
+        });
+        Block<float, 3> cofactors;
+        each<3>([&](auto i) TENK_LAMBDA {
+            constexpr unsigned j = (i + 1) % 3, k = (i + 2) % 3;
+            cofactors.row[i].rest = once[j] * twice[k] - twice[j] * once[k];
+        });
+        const auto product = [&](unsigned i)
+                                 TENK_LAMBDA { return a.row[i].rest[0] * cofactors.row[i].rest[0]; };
+        const float determinant = (product(1) + product(2)) + product(0);
+        if (determinant == 0)
+            return false;
+        const Quad scale = broadcast(refined3(determinant));
+        each<3>([&](auto i) TENK_LAMBDA { cofactors.row[i].rest = cofactors.row[i].rest * scale; });
+        transpose(cofactors).store(to);
+        return true;
+    }
+};
+
+template <>
+struct Packed<float, 4>
+{
+    TENK_INLINE static bool invert(const DenseView<float>& from, const DenseView<float>& to)
+    {
+        Quad rows[4];
+        each<4>([&](auto i) TENK_LAMBDA { rows[i] = loadVector<float>(from.row(i)); });
+        Block4 inverse;
+        if (!invert4(rows, inverse))
+            return false;
+        each<4>([&](auto i) TENK_LAMBDA { storeVector<float>(to.row(i), inverse.row[i]); });
+        return true;
+    }
+};
+
+template <>
+struct Packed<float, 5>
+{
+    TENK_INLINE static bool invert(const DenseView<float>& from, const DenseView<float>& to)
+    {
+        return invertWithExchange<float, 5>(from, to);
+    }
+
+    TENK_INLINE static bool columnsMayStay(const DenseView<float>& from)
+    {
+        return !isInBand(load<float>(from.at(0, 0)));
+    }
+
+    TENK_INLINE static bool chooseColumns(const DenseView<float>& from, ColumnExchange<float, 5>& exchanged)
+    {
+        float row[5];
+        each<5>([&](auto j) TENK_LAMBDA { row[j] = load<float>(from.at(0, j)); });
+        const std::size_t column = largest(row);
+        exchanged.exchange(0, column);
+        return !isInBand(row[column]);
+    }
+
+    TENK_INLINE static bool invertAsItStands(const DenseView<float>& from, const DenseView<float>& to)
+    {
+        const float reciprocal = refined(load<float>(from.at(0, 0)));
+        const Quad pivotRow = loadVector<float>(from.at(0, 1));
+        const auto first = [&](unsigned i) TENK_LAMBDA { return load<float>(from.at(i, 0)); };
+        const Quad factors = broadcast(reciprocal) * Quad{first(1), first(2), first(3), first(4)};
+        Quad rows[4];
+        each<4>([&](auto i) TENK_LAMBDA { rows[i] = loadVector<float>(from.at(i + 1, 1)); });
+        eliminate(rows, factors, pivotRow);
+        Block4 inverse;
+        if (!invert4(rows, inverse))
+            return false;
+
+        const Bordered border(inverse, reciprocal, factors, pivotRow);
+        store(to.at(0, 0), border.corner);
+        storeVector<float>(to.at(0, 1), border.above);
+        each<4>([&](auto i) TENK_LAMBDA {
+            store<float>(to.at(i + 1, 0), border.left[std::size_t{i}]);
+            storeVector<float>(to.at(i + 1, 1), inverse.row[i]);
+        });
+        return true;
+    }
+};
+
+template <>
+struct Packed<float, 6>
+{
+    TENK_INLINE static bool invert(const DenseView<float>& from, const DenseView<float>& to)
+    {
+        return invertWithExchange<float, 6>(from, to);
+    }
+
+    TENK_INLINE static bool columnsMayStay(const DenseView<float>& from)
+    {
+        const auto a = [&](unsigned i, unsigned j) TENK_LAMBDA { return load<float>(from.at(i, j)); };
+        return !isInBand(a(0, 0)) && !isInBand(a(0, 0) * a(1, 1) - a(0, 1) * a(1, 0));
+    }
+
+    // Both pivots are searched for, the second in what the first leaves of row 1.
+    TENK_INLINE static bool chooseColumns(const DenseView<float>& from, ColumnExchange<float, 6>& exchanged)
+    {
+        float row[6];
+        each<6>([&](auto j) TENK_LAMBDA { row[j] = load<float>(from.at(0, j)); });
+        const std::size_t column = largest(row);
+        if (isInBand(row[column]))
+            return false;
+        exchanged.exchange(0, column);
+
+        const auto a = [&](unsigned i, unsigned j)
+                           TENK_LAMBDA { return load<float>(from.at(i, exchanged.columnOrder[j])); };
+        const float factor = refined(a(0, 0)) * a(1, 0);
+        float left[5];
+        each<5>([&](auto j) TENK_LAMBDA { left[j] = a(1, j + 1) - factor * a(0, j + 1); });
+        const std::size_t second = largest(left);
+        exchanged.exchange(1, second + 1);
+        return !isInBand(left[second]);
+    }
+
+    TENK_INLINE static bool invertAsItStands(const DenseView<float>& from, const DenseView<float>& to)
+    {
+        const auto a = [&](unsigned i, unsigned j) TENK_LAMBDA { return load<float>(from.at(i, j)); };
+        const auto behind = [&](unsigned i) TENK_LAMBDA { return loadVector<float>(from.at(i, 2)); };
+        // Columns 0 and 1 of rows 2 to 5.
+        const Quad upper = loadHalves(from.at(2, 0), from.at(3, 0)),
+                   lower = loadHalves(from.at(4, 0), from.at(5, 0));
+        const Quad column0 = shuffle<0, 2, 4, 6>(upper, lower), column1 = shuffle<1, 3, 5, 7>(upper, lower);
+        Quad rows[4];
+        each<4>([&](auto i) TENK_LAMBDA { rows[i] = behind(i + 2); });
+
+        const float reciprocal1 = refined(a(0, 0));
+        const Quad pivotRow1 = behind(0);
+        const float factor1First = reciprocal1 * a(1, 0);
+        const Quad factors1 = broadcast(reciprocal1) * column0;
+        eliminate(rows, factors1, pivotRow1);
+
+        const float reciprocal2 = refined(a(1, 1) - factor1First * a(0, 1));
+        const Quad pivotRow2 = behind(1) - broadcast(factor1First) * pivotRow1;
+        const Quad factors2 = broadcast(reciprocal2) * (column1 - factors1 * broadcast(a(0, 1)));
+        eliminate(rows, factors2, pivotRow2);
+
+        Block4 inverse;
+        if (!invert4(rows, inverse))
+            return false;
+        const Bordered inner(inverse, reciprocal2, factors2, pivotRow2);
+        const BorderedTwice outer(inverse, inner, reciprocal1, factor1First, factors1, a(0, 1), pivotRow1);
+
+        store(to.at(0, 0), outer.corner);
+        store(to.at(0, 1), outer.aboveFirst);
+        storeVector<float>(to.at(0, 2), outer.above);
+        store(to.at(1, 0), outer.leftFirst);
+        store(to.at(1, 1), inner.corner);
+        storeVector<float>(to.at(1, 2), inner.above);
+        const Quad left01 = shuffle<0, 4, 1, 5>(outer.left, inner.left);
+        const Quad left23 = shuffle<2, 6, 3, 7>(outer.left, inner.left);
+        storeLow(to.at(2, 0), left01);
+        storeHigh(to.at(3, 0), left01);
+        storeLow(to.at(4, 0), left23);
+        storeHigh(to.at(5, 0), left23);
+        each<4>([&](auto i) TENK_LAMBDA { storeVector<float>(to.at(i + 2, 2), inverse.row[i]); });
+        return true;
+    }
+};
+
+} // namespace tenk

@@ -1,0 +1,220 @@
+// The inverse of fixed order on packed rows, 64f.
+//
+// Orders 5 and 6 work by blocks: the first two rows and columns, and the others. What is tested differs: the
+// band on the determinant of the first block, but only before its columns are exchanged; in order 3, and so
+// in the second block of order 5, the reciprocal of the determinant, which is 0 for an infinite determinant
+// and not for 0; in order 4, and so in order 6, the determinant. Nothing is written before the last test has
+// passed.
+#pragma once
+
+#include "detinv/column_exchange.h"
+#include "detinv/limits.h"
+
+namespace tenk {
+
+using Pair = Vector<double>;
+
+TENK_INLINE Pair exchangePair(Pair v)
+{
+    return shuffle<1, 0>(v, v);
+}
+
+// Three elements multiply, add and subtract in a pair and one behind it.
+template <unsigned n>
+TENK_INLINE Row<double, n> operator*(double factor, const Row<double, n>& row)
+{
+    return Row<double, n>::repeat(factor) * row;
+}
+
+// ---------------------------------------------------------------------------------------------------------------
+// Orders 3 and 4, as blocks in registers: the inverse takes the place of the block unless that is singular
+// ---------------------------------------------------------------------------------------------------------------
+
+TENK_INLINE bool invertBlock(Block<double, 3>& a)
+{
+    Pair once[3], twice[3]; // elements 1 2 and 2 0 of the rows
+    each<3>([&](auto i) TENK_LAMBDA {
+        const Pair last{a.row[i].rest, a.row[i].rest};
+        once[i] = shuffle<1, 2>(a.row[i].vector[0], last);
+        twice[i] = shuffle<2, 0>(a.row[i].vector[0], last);
+    });
+    Block<double, 3> cofactors;
+    each<3>([&](auto i) TENK_LAMBDA {
+        constexpr unsigned j = (i + 1) % 3, k = (i + 2) % 3;
+        cofactors.row[i].vector[0] = once[j] * twice[k] - twice[j] * once[k];
+        cofactors.row[i].rest = a.row[j].vector[0][0] * a.row[k].vector[0][1] - //
+                                a.row[j].vector[0][1] * a.row[k].vector[0][0];
+    });
+    const auto product = [&](auto i)
+                             TENK_LAMBDA { return a.row[i].vector[0][0] * cofactors.row[i].vector[0][0]; };
+    const double reciprocal = 1 / ((product(index<0>) + product(index<2>)) + product(index<1>));
+    if (reciprocal == 0)
+        return false;
+    each<3>([&](auto i) TENK_LAMBDA { cofactors.row[i] = reciprocal * cofactors.row[i]; });
+    a = transpose(cofactors);
+    return true;
+}
+
+// Lane j ^ bits for lane j of a row of four. The second bit exchanges the vectors, which costs nothing.
+template <unsigned bits>
+TENK_INLINE Row<double, 4> exchangeLanes(const Row<double, 4>& r)
+{
+    Row<double, 4> e;
+    each<2>([&](auto v) TENK_LAMBDA {
+        const Pair from = r.vector[v ^ (bits >> 1)];
+        e.vector[v] = (bits & 1) != 0 ? exchangePair(from) : from;
+    });
+    return e;
+}
+
+// Six products of three elements to a cofactor, as in 32f.
+TENK_INLINE bool invertBlock(Block<double, 4>& a)
+{
+    using Row4 = Row<double, 4>;
+    Row4 next[4];
+    each<4>([&](auto i) TENK_LAMBDA { next[i] = exchangeLanes<1>(a.row[i]); });
+    struct Products
+    {
+        Row4 plus, minus;
+    };
+    const auto products = [&](unsigned i, unsigned j) TENK_LAMBDA {
+        const Row4 both = a.row[i] * next[j];
+        return Products{exchangeLanes<2>(both), exchangeLanes<3>(both)};
+    };
+    const Products p01 = products(0, 1), p02 = products(0, 2), p03 = products(0, 3);
+    const Products p12 = products(1, 2), p13 = products(1, 3), p23 = products(2, 3);
+    const auto triples = [&](unsigned i, const Products& p)
+                             TENK_LAMBDA { return next[i] * p.plus - next[i] * p.minus; };
+    Block<double, 4> cofactors;
+    cofactors.row[0] = (triples(1, p23) + triples(3, p12)) - triples(2, p13);
+    cofactors.row[1] = triples(2, p03) - (triples(0, p23) + triples(3, p02));
+    cofactors.row[2] = (triples(0, p13) + triples(3, p01)) - triples(1, p03);
+    cofactors.row[3] = triples(1, p02) - (triples(0, p12) + triples(2, p01));
+
+    const auto product = [&](unsigned i)
+                             TENK_LAMBDA { return a.row[i].vector[0][0] * cofactors.row[i].vector[0][0]; };
+    const double determinant = (product(0) + product(2)) + (product(1) + product(3));
+    if (determinant == 0)
+        return false;
+    const double reciprocal = 1 / determinant;
+    each<4>([&](auto i) TENK_LAMBDA { cofactors.row[i] = reciprocal * cofactors.row[i]; });
+    a = transpose(cofactors);
+    return true;
+}
+
+// ---------------------------------------------------------------------------------------------------------------
+// The members
+// ---------------------------------------------------------------------------------------------------------------
+
+// Orders 5 and 6.
+template <unsigned n>
+struct Packed<double, n>
+{
+    static constexpr unsigned p = 2, q = n - p;
+
+    TENK_INLINE static bool invert(const DenseView<double>& from, const DenseView<double>& to)
+    {
+        return invertWithExchange<double, n>(from, to);
+    }
+
+    TENK_INLINE static bool columnsMayStay(const DenseView<double>& from)
+    {
+        const auto a = [&](unsigned i, unsigned j) TENK_LAMBDA { return load<double>(from.at(i, j)); };
+        return !isInBand(a(0, 0) * a(1, 1) - a(0, 1) * a(1, 0));
+    }
+
+    // The first pair of columns, from the right, that will do. Its columns are put in front by four
+    // assignments, which lose column e when d is 0: column 0 then stands in two places, the matrix is divided
+    // by what sent it searching, and row e of the destination is not written.
+    TENK_INLINE static bool chooseColumns(const DenseView<double>& from, ColumnExchange<double, n>& exchanged)
+    {
+        const auto a = [&](unsigned i, std::size_t j) TENK_LAMBDA { return load<double>(from.at(i, j)); };
+        for (std::size_t e = n - 1; e > 0; --e)
+            for (std::size_t d = e; d-- > 0;)
+                if (!isInBand(a(1, d) * a(0, e) - a(0, d) * a(1, e))) {
+                    exchanged.columnOrder[0] = e;
+                    exchanged.columnOrder[e] = 0;
+                    exchanged.columnOrder[1] = d;
+                    exchanged.columnOrder[d] = 1;
+                    return true;
+                }
+        return false;
+    }
+
+    TENK_INLINE static bool invertAsItStands(const DenseView<double>& from, const DenseView<double>& to)
+    {
+        using RowQ = Row<double, q>;
+        // P B
+        // C D
+        Pair P[p], C[q];
+        RowQ B[p];
+        Block<double, q> S;
+        each<p>([&](auto i) TENK_LAMBDA {
+            P[i] = loadVector<double>(from.at(i, 0));
+            B[i] = RowQ::load(from.at(i, p));
+        });
+        each<q>([&](auto i) TENK_LAMBDA { C[i] = loadVector<double>(from.at(p + i, 0)); });
+
+        const double r1 = 1 / (P[0][0] * P[1][1] - P[0][1] * P[1][0]);
+        const Pair inverseP[p] = {Pair{P[1][1], -P[0][1]} * broadcast(r1),
+                                  Pair{-P[1][0], P[0][0]} * broadcast(r1)};
+        RowQ W[p];
+        each<p>([&](auto i) TENK_LAMBDA { W[i] = -inverseP[i][0] * B[0] + -inverseP[i][1] * B[1]; });
+        each<q>([&](auto i) TENK_LAMBDA {
+            S.row[i] = (C[i][0] * W[0] + RowQ::load(from.at(p + i, p))) + C[i][1] * W[1];
+        });
+        if (!invertBlock(S))
+            return false;
+
+        Pair lowerLeft[q];
+        each<q>([&](auto i) TENK_LAMBDA {
+            Pair x = broadcast(-S.row[i].get(index<0>)) * C[0];
+            each<q - 1>([&](auto k)
+                            TENK_LAMBDA { x = x + broadcast(-S.row[i].get(index<k + 1>)) * C[k + 1]; });
+            lowerLeft[i] = broadcast(x[0]) * inverseP[0] + broadcast(x[1]) * inverseP[1];
+        });
+        each<p>([&](auto i) TENK_LAMBDA {
+            Pair upperLeft = inverseP[i];
+            each<q>([&](auto k)
+                        TENK_LAMBDA { upperLeft = upperLeft + broadcast(W[i].get(k)) * lowerLeft[k]; });
+            RowQ upperRight = W[i].get(index<0>) * S.row[0];
+            each<q - 1>([&](auto k)
+                            TENK_LAMBDA { upperRight = upperRight + W[i].get(index<k + 1>) * S.row[k + 1]; });
+            storeVector<double>(to.at(i, 0), upperLeft);
+            upperRight.store(to.at(i, p));
+        });
+        each<q>([&](auto i) TENK_LAMBDA {
+            storeVector<double>(to.at(p + i, 0), lowerLeft[i]);
+            S.row[i].store(to.at(p + i, p));
+        });
+        return true;
+    }
+};
+
+template <>
+struct Packed<double, 3>
+{
+    TENK_INLINE static bool invert(const DenseView<double>& from, const DenseView<double>& to)
+    {
+        auto a = Block<double, 3>::load(from);
+        if (!invertBlock(a))
+            return false;
+        a.store(to);
+        return true;
+    }
+};
+
+template <>
+struct Packed<double, 4>
+{
+    TENK_INLINE static bool invert(const DenseView<double>& from, const DenseView<double>& to)
+    {
+        auto a = Block<double, 4>::load(from);
+        if (!invertBlock(a))
+            return false;
+        a.store(to);
+        return true;
+    }
+};
+
+} // namespace tenk

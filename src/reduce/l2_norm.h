@@ -1,0 +1,156 @@
+// L2Norm: the square root of the sum of the squares of a vector's elements.
+//
+// Squares, sums and the root are rounded one by one to the element type, and the result is written once. Sums
+// start from +0 and go by ascending index, but for two kinds of members:
+//
+//   general v of adjacent elements         in blocks of 8, chosen by the address of src: see blockSum in
+//   sums.h fixed sizes of adjacent elements       without the zero, grouped by size, see sumInOrder
+#pragma once
+
+#include "reduce/batch.h"
+#include "reduce/root.h"
+#include "reduce/sums.h"
+
+namespace tenk::l2 {
+
+// These take the root by the processor's estimate, which makes the norm of a zero vector a NaN.
+consteval bool refinesEstimate(Member m)
+{
+    return m.type == Type::f32 && !m.general() && isDense(m.layout);
+}
+
+// How many objects are read, and their list entries tested, before the first of their results is written.
+consteval unsigned objectsPerStep(Member m)
+{
+    return m.batch() && refinesEstimate(m) ? 4 : 1;
+}
+
+// The sum of the squares q(0) ... of a fixed size. Arrays and single vectors of 32f are grouped differently,
+// and 64f stands apart from the arrays in sizes 3, 4 and 5.
+template <Member m, typename Q>
+TENK_INLINE auto sumInOrder(Q q)
+{
+    constexpr bool apart = m.type == Type::f64;
+    if constexpr (m.size == 3) {
+        if constexpr (apart)
+            return (q(index<2>) + q(index<0>)) + q(index<1>);
+        else
+            return (q(index<0>) + q(index<1>)) + q(index<2>);
+    } else if constexpr (!apart && !m.batch()) {
+        const auto four = (q(index<0>) + q(index<1>)) + (q(index<2>) + q(index<3>));
+        if constexpr (m.size == 4)
+            return four;
+        else if constexpr (m.size == 5)
+            return four + q(index<4>);
+        else
+            return four + (q(index<4>) + q(index<5>));
+    } else if constexpr (m.size == 4 && !apart) {
+        return ((q(index<0>) + q(index<1>)) + q(index<2>)) + q(index<3>);
+    } else {
+        const auto even = q(index<0>) + q(index<2>);
+        const auto odd = q(index<1>) + q(index<3>);
+        if constexpr (m.size == 4)
+            return even + odd;
+        else if constexpr (m.size == 6)
+            return (even + q(index<4>)) + (odd + q(index<5>));
+        else if constexpr (apart)
+            return (even + q(index<4>)) + odd;
+        else
+            return (even + odd) + q(index<4>);
+    }
+}
+
+template <Member m>
+TENK_INLINE Element<m> sumOfSquares(Address x)
+{
+    using T = Element<m>;
+    const auto row = Row<T, m.size>::load(x);
+    const auto squares = row * row;
+    return sumInOrder<m>([&](auto i) TENK_LAMBDA { return squares.get(i); });
+}
+
+// The sums of four objects in 32f, one per lane; x(n) is the address of object n.
+template <Member m, typename X>
+TENK_INLINE Vector<float> sumsOfStep(X x)
+{
+    if constexpr (m.size == 3) {
+        Row<float, 3> squares[4];
+        each<4>([&](auto n) TENK_LAMBDA {
+            const auto row = Row<float, 3>::load(x(n));
+            squares[n] = row * row;
+        });
+        const auto t = sideBySide(squares);
+        return sumInOrder<m>([&](auto i) TENK_LAMBDA { return t.element[i]; });
+    } else if constexpr (m.size == 4) {
+        Block<float, 4> squares;
+        each<4>([&](auto n) TENK_LAMBDA {
+            const auto row = Row<float, 4>::load(x(n));
+            squares.row[n] = row * row;
+        });
+        const auto t = transpose(squares);
+        return sumInOrder<m>([&](auto i) TENK_LAMBDA { return t.row[i].vector[0]; });
+    } else {
+        // Elements 2 i and 2 i + 1 of two objects make one vector, so even and odd elements add up side by
+        // side.
+        const auto evenAndOdd = [&](auto first) TENK_LAMBDA {
+            const auto squares = [&](std::size_t i) TENK_LAMBDA {
+                const auto v = loadHalves(x(first) + i * 8, x(first + 1) + i * 8);
+                return v * v;
+            };
+            if constexpr (m.size == 6)
+                return (squares(0) + squares(1)) + squares(2);
+            else
+                return squares(0) + squares(1);
+        };
+        const auto s = sumNeighbours(evenAndOdd(index<0>), evenAndOdd(index<2>));
+        if constexpr (m.size == 6)
+            return s;
+        const auto last = [&](std::size_t n) TENK_LAMBDA { return load<float>(x(n) + 16); };
+        const auto q4 = Vector<float>{last(0), last(1), last(2), last(3)};
+        return s + q4 * q4;
+    }
+}
+
+} // namespace tenk::l2
+
+namespace tenk {
+
+template <Member m>
+TENK_INLINE tenkStatus l2Norm(Source<m> src, Element<m>* dst, Size<m> length, Count<m> count)
+{
+    using T = Element<m>;
+    if (anyNull(src, dst))
+        return tenkNullPointerError;
+    if (anyZero(length))
+        return tenkSizeError;
+    // For a single vector this is as good as testing each entry when its element is due: nothing has been
+    // written then.
+    if (anyNullEntry(src, length))
+        return tenkNullPointerError;
+
+    return inSteps<l2::objectsPerStep(m)>(
+        dst, count, [&](std::size_t k) TENK_LAMBDA { return anyNullObject(k, src); },
+        [&](auto k) TENK_LAMBDA {
+            const auto x = [&](std::size_t n) TENK_LAMBDA { return src.object(k + n, length).start; };
+            return refinedRoot(l2::sumsOfStep<m>(x));
+        },
+        [&](std::size_t k) TENK_LAMBDA -> T {
+            const auto x = src.object(k, length);
+            if constexpr (l2::refinesEstimate(m)) {
+                return refinedRoot(l2::sumOfSquares<m>(x.start));
+            } else if constexpr (isDense(m.layout) && !m.general()) {
+                return root(l2::sumOfSquares<m>(x.start));
+            } else if constexpr (isDense(m.layout) && !m.batch()) {
+                return root(blockSum<T>(x.start, x.start, length));
+            } else {
+                T s = 0;
+                for (std::size_t j = 0; j < length; ++j) {
+                    const T element = load<T>(x.at(0, j));
+                    s = s + element * element;
+                }
+                return root(s);
+            }
+        });
+}
+
+} // namespace tenk

@@ -1,0 +1,379 @@
+// DotProduct: edge cases by hand, and the order of the sums of every member against plain expressions.
+#include "tenk.h"
+
+#include <bit>
+#include <cmath>
+#include <cstdint>
+#include <cstring>
+#include <gtest/gtest.h>
+#include <limits>
+#include <random>
+#include <vector>
+
+#include "support/objects.h"
+
+namespace {
+
+using namespace support;
+using Floats = std::vector<float>;
+
+// The sum in order from +0.
+template <typename T>
+T plainSum(const std::vector<T>& p)
+{
+    T s = 0;
+    for (T x : p)
+        s = s + x;
+    return s;
+}
+
+// The sum of the products of a member, spelled out.
+template <typename T>
+T expectedSum(const std::string& codes, unsigned size, const std::string& layout, const std::vector<T>& p)
+{
+    if (size == 0 || !(layout.empty() || layout == "_L"))
+        return plainSum(p);
+    const bool is64f = sizeof(T) == 8;
+    switch (size) {
+    case 3:
+        return (p[0] + p[1]) + p[2];
+    case 4:
+        return is64f            ? (p[0] + p[2]) + (p[1] + p[3])
+               : codes == "vav" ? (p[0] + p[1]) + (p[2] + p[3])
+                                : ((p[0] + p[1]) + p[2]) + p[3];
+    case 5:
+        return is64f ? ((p[0] + p[2]) + (p[1] + p[3])) + p[4] : (((p[0] + p[1]) + p[2]) + p[3]) + p[4];
+    default:
+        return is64f ? (p[0] + (p[2] + p[4])) + (p[1] + (p[3] + p[5]))
+                     : ((((p[0] + p[1]) + p[2]) + p[3]) + p[4]) + p[5];
+    }
+}
+
+template <typename T>
+void checkOrder(const std::string& codes, unsigned size, const std::string& layout)
+{
+    const unsigned count = codes == "vv" ? 1 : 11;
+    const unsigned length = size == 0 ? 7 : size; // too short for blocks
+    const std::string name = "tenkDotProduct_" + codes + "_" + typeName<T>() +
+                             (size == 0 ? "" : "_" + std::to_string(size) + "x1") + layout;
+    std::mt19937 random(size);
+    std::uniform_real_distribution<T> number(-1, 1);
+    for (int round = 0; round < 20; ++round) {
+        auto a = vectors<T>(layout, codes != "vv", count, length);
+        auto b = vectors<T>(layout, codes == "vava", count, length);
+        a.fill([&] { return number(random); });
+        b.fill([&] { return number(random); });
+        std::vector<T> dst(count + 1, T(9));
+        Arguments sizes;
+        if (size == 0)
+            sizes.push_back(word(length));
+        if (count > 1)
+            sizes.push_back(word(count));
+        ASSERT_EQ(callByName(name, {a.arguments(), b.arguments(), {pointer(dst.data())}, sizes}), tenkOk)
+            << name;
+        for (unsigned k = 0; k < count; ++k) {
+            std::vector<T> p;
+            for (unsigned j = 0; j < length; ++j)
+                p.push_back(a.at(k, j) * b.at(k, j));
+            ASSERT_EQ(dst[k], expectedSum(codes, size, layout, p)) << name << ", object " << k;
+        }
+        EXPECT_EQ(dst[count], T(9)) << name;
+    }
+}
+
+TEST(DotProduct, AddsInTheOrderOfEachMember)
+{
+    for (const char* codes : {"vv", "vav", "vava"})
+        for (unsigned size : {0U, 3U, 4U, 5U, 6U})
+            for (const std::string& layout : codes == std::string("vv") ? singleLayouts : arrayLayouts) {
+                checkOrder<float>(codes, size, layout);
+                checkOrder<double>(codes, size, layout);
+            }
+}
+
+// In 32f 2^24 + 1 is 2^24, and 1 + 1 + 2^24 is 2^24 + 2.
+TEST(DotProduct, OfFourElementsDiffersBetweenOnePairAndAnArray)
+{
+    const float big = 16777216, x[] = {big, 1, 1, 0}, ones[] = {1, 1, 1, 1};
+    float one = 0, array = 0, list = 0, pairs = 0;
+    EXPECT_EQ(tenkDotProduct_vv_32f_4x1(x, ones, &one), tenkOk);
+    EXPECT_EQ(one, big); // ((big + 1) + 1) + 0
+    EXPECT_EQ(tenkDotProduct_vava_32f_4x1(x, 16, ones, 16, &array, 1), tenkOk);
+    EXPECT_EQ(array, big);
+
+    const float y[] = {big, 0, 1, 1};
+    EXPECT_EQ(tenkDotProduct_vv_32f_4x1(y, ones, &one), tenkOk);
+    EXPECT_EQ(one, big); // ((big + 0) + 1) + 1
+    EXPECT_EQ(tenkDotProduct_vav_32f_4x1(y, 16, ones, &pairs, 1), tenkOk);
+    EXPECT_EQ(pairs, big + 2); // (big + 0) + (1 + 1)
+    const float* entries[] = {y};
+    EXPECT_EQ(tenkDotProduct_vav_32f_4x1_L(entries, 0, ones, &list, 1), tenkOk);
+    EXPECT_EQ(list, big + 2);
+}
+
+TEST(DotProduct, OfFourElementsIn64fAddsEvenAndOddElementsApart)
+{
+    const double big = 9007199254740992, x[] = {big, 1, 0, 1}, ones[] = {1, 1, 1, 1}; // 2^53
+    double s = 0;
+    EXPECT_EQ(tenkDotProduct_vv_64f_4x1(x, ones, &s), tenkOk);
+    EXPECT_EQ(s, big + 2); // (big + 0) + (1 + 1)
+    EXPECT_EQ(tenkDotProduct_vv_64f_4x1_S2(x, 8, ones, 8, &s), tenkOk);
+    EXPECT_EQ(s, big); // ((big + 1) + 0) + 1
+}
+
+TEST(DotProduct, OfSixElementsIn64fStartsFromTheBack)
+{
+    const double big = 9007199254740992, x[] = {big, 0, 1, 0, 1, 0}, ones[] = {1, 1, 1, 1, 1, 1};
+    double s = 0;
+    EXPECT_EQ(tenkDotProduct_vv_64f_6x1(x, ones, &s), tenkOk);
+    EXPECT_EQ(s, big + 2); // big + (1 + 1), where (big + 1) + 1 is big
+}
+
+TEST(DotProduct, OfMinusZeroIsPlusZeroWhereTheSumStartsFromZero)
+{
+    const float minus[] = {-0.0F, -0.0F, -0.0F}, ones[] = {1, 1, 1};
+    const float* table[] = {minus, minus + 1, minus + 2};
+    const float* onesTable[] = {ones, ones + 1, ones + 2};
+    float s = 9;
+    EXPECT_EQ(tenkDotProduct_vv_32f(minus, ones, &s, 1), tenkOk);
+    EXPECT_EQ(std::bit_cast<std::uint32_t>(s), 0U);
+    EXPECT_EQ(tenkDotProduct_vv_32f_3x1_P(table, 0, onesTable, 0, &s), tenkOk);
+    EXPECT_EQ(std::bit_cast<std::uint32_t>(s), 0U);
+    EXPECT_EQ(tenkDotProduct_vv_32f_3x1_S2(minus, 4, ones, 4, &s), tenkOk);
+    EXPECT_EQ(std::bit_cast<std::uint32_t>(s), 0U);
+    EXPECT_EQ(tenkDotProduct_vv_32f_3x1(minus, ones, &s), tenkOk);
+    EXPECT_EQ(std::bit_cast<std::uint32_t>(s), 0x80000000U);
+}
+
+// ---------------------------------------------------------------------------------------------------------------
+// The blocks of the general members of adjacent elements
+// ---------------------------------------------------------------------------------------------------------------
+
+// What is promised, lane by lane.
+template <typename T>
+T expectedBlockSum(const std::vector<T>& p, std::uintptr_t address)
+{
+    constexpr std::size_t lanes = 16 / sizeof(T);
+    const std::size_t above = address % 16;
+    if (above % sizeof(T) != 0)
+        return plainSum(p);
+    const std::size_t peel = above == 0 ? 0 : (16 - above) / sizeof(T);
+    if (p.size() < peel + 8)
+        return plainSum(p);
+    T a[lanes] = {}, b[lanes] = {};
+    for (std::size_t i = 0; i < peel; ++i)
+        a[0] = a[0] + p[i];
+    std::size_t i = peel;
+    for (; i + 8 <= p.size(); i += 8)
+        for (std::size_t n = 0; n < 8; ++n) {
+            T& lane = n / lanes % 2 == 0 ? a[n % lanes] : b[n % lanes];
+            lane = lane + p[i + n];
+        }
+    T v[lanes];
+    for (std::size_t l = 0; l < lanes; ++l)
+        v[l] = a[l] + b[l];
+    T s = 0;
+    if constexpr (lanes == 4)
+        s = (v[0] + v[2]) + (v[1] + v[3]);
+    else
+        s = v[0] + v[1];
+    for (; i < p.size(); ++i)
+        s = s + p[i];
+    return s;
+}
+
+// All alignments of both operands, odd ones among them.
+template <typename T>
+void checkBlocks(tenkStatus (*function)(const T*, const T*, T*, std::uint32_t))
+{
+    std::mt19937 random(1);
+    std::uniform_real_distribution<T> number(-1, 1);
+    std::vector<unsigned> lengths = {100, 1000};
+    for (unsigned n = 1; n <= 40; ++n)
+        lengths.push_back(n);
+    alignas(16) char xs[1000 * sizeof(T) + 16], ys[1000 * sizeof(T) + 16];
+    unsigned differs = 0;
+    for (const unsigned n : lengths)
+        for (unsigned xAt = 0; xAt < 16; ++xAt)
+            for (unsigned yAt = 0; yAt < 16; ++yAt) {
+                std::vector<T> x(n), y(n), p(n);
+                for (unsigned i = 0; i < n; ++i) {
+                    x[i] = number(random), y[i] = number(random);
+                    p[i] = x[i] * y[i];
+                }
+                std::memcpy(xs + xAt, x.data(), n * sizeof(T));
+                std::memcpy(ys + yAt, y.data(), n * sizeof(T));
+                // Pointers that are not aligned for T are legal here.
+                const auto* const src1 =
+                    reinterpret_cast<const T*>(reinterpret_cast<std::uintptr_t>(xs) + xAt);
+                const auto* const src2 =
+                    reinterpret_cast<const T*>(reinterpret_cast<std::uintptr_t>(ys) + yAt);
+                T s = 0;
+                ASSERT_EQ(function(src1, src2, &s, n), tenkOk);
+                ASSERT_EQ(s, expectedBlockSum(p, yAt)) << n << " elements at " << xAt << " and " << yAt;
+                differs += s != plainSum(p);
+            }
+    EXPECT_GT(differs, 300U); // the sum in order would not do
+}
+
+TEST(DotProduct, OfGeneralVectorsGoesInBlocksByTheAddressOfTheSecond)
+{
+    checkBlocks<float>(tenkDotProduct_vv_32f);
+    checkBlocks<double>(tenkDotProduct_vv_64f);
+}
+
+TEST(DotProduct, OfSevenElementsIsTheSumInOrderAndOfEightABlock)
+{
+    alignas(16) const float ones[8] = {1, 1, 1, 1, 1, 1, 1, 1};
+    const float big = 16777216;
+    alignas(16) const float x[8] = {big, 1, 0, 0, 0, 1, 0, 0};
+    float s = 0;
+    EXPECT_EQ(tenkDotProduct_vv_32f(x, ones, &s, 7), tenkOk);
+    EXPECT_EQ(s, big);
+    EXPECT_EQ(tenkDotProduct_vv_32f(x, ones, &s, 8), tenkOk);
+    EXPECT_EQ(s, big + 2); // ((p0 + p4) + (p2 + p6)) + ((p1 + p5) + (p3 + p7))
+}
+
+TEST(DotProduct, OfElevenElementsFourBytesAboveABoundaryHasThreeInFrontOfOneBlock)
+{
+    alignas(16) const float memory[12] = {0, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1, 1};
+    const float big = 16777216;
+    // In front 1 + 1 + 1 = 3, so lane 0 is 3 + big, rounded to big + 4, and the others 1 each: (big + 4 + 1)
+    // + (1 + 1) is big + 6. In order each 1 is lost.
+    const float x[11] = {1, 1, 1, big, 1, 1, 1, 0, 0, 0, 0};
+    float s = 0;
+    EXPECT_EQ(tenkDotProduct_vv_32f(x, memory + 1, &s, 11), tenkOk);
+    EXPECT_EQ(s, big + 6);
+    EXPECT_EQ(tenkDotProduct_vv_32f(x, memory + 1, &s, 10), tenkOk);
+    EXPECT_EQ(s, big + 4);
+}
+
+TEST(DotProduct, WithASecondVectorAtAnOddAddressIsTheSumInOrder)
+{
+    const float big = 16777216;
+    const float x[8] = {big, 1, 0, 0, 0, 1, 0, 0};
+    alignas(16) char memory[48];
+    const float ones[8] = {1, 1, 1, 1, 1, 1, 1, 1};
+    std::memcpy(memory + 1, ones, sizeof ones);
+    float s = 0;
+    EXPECT_EQ(tenkDotProduct_vv_32f(
+                  x, reinterpret_cast<const float*>(reinterpret_cast<std::uintptr_t>(memory) + 1), &s, 8),
+              tenkOk);
+    EXPECT_EQ(s, big);
+}
+
+// ---------------------------------------------------------------------------------------------------------------
+// Tests of arguments
+// ---------------------------------------------------------------------------------------------------------------
+
+TEST(DotProduct, TestsPointersThenSizesThenTablesThenCount)
+{
+    float x[8] = {}, s = 9;
+    EXPECT_EQ(tenkDotProduct_vv_32f(nullptr, x, &s, 0), tenkNullPointerError);
+    EXPECT_EQ(tenkDotProduct_vv_32f(x, nullptr, &s, 0), tenkNullPointerError);
+    EXPECT_EQ(tenkDotProduct_vv_32f(x, x, nullptr, 0), tenkNullPointerError);
+    EXPECT_EQ(tenkDotProduct_vv_32f(x, x, &s, 0), tenkSizeError);
+    EXPECT_EQ(tenkDotProduct_vav_32f(x, 4, x, &s, 0, 0), tenkSizeError);
+    EXPECT_EQ(tenkDotProduct_vav_32f(x, 4, x, &s, 1, 0), tenkOk);
+    EXPECT_EQ(tenkDotProduct_vav_32f_3x1(x, 4, nullptr, &s, 0), tenkNullPointerError);
+    EXPECT_EQ(tenkDotProduct_vav_32f_3x1(x, 4, x, &s, 0), tenkOk);
+    const float* table[] = {x, x, x};
+    const float* broken[] = {x, x, nullptr};
+    EXPECT_EQ(tenkDotProduct_vav_32f_P(broken, 0, table, 0, &s, 3, 0), tenkNullPointerError);
+    EXPECT_EQ(tenkDotProduct_vav_32f_P(broken, 0, table, 0, &s, 0, 0), tenkSizeError);
+    EXPECT_EQ(tenkDotProduct_vav_32f_P(table, 0, broken, 0, &s, 3, 0), tenkNullPointerError);
+    EXPECT_EQ(tenkDotProduct_vav_32f_P(table, 0, broken, 0, &s, 2, 0), tenkOk);
+    EXPECT_EQ(tenkDotProduct_vava_32f_3x1_PS2(table, 0, 0, broken, 0, 0, &s, 0), tenkNullPointerError);
+    EXPECT_EQ(tenkDotProduct_vv_32f_3x1_P(table, 0, broken, 0, &s), tenkNullPointerError);
+    EXPECT_EQ(tenkDotProduct_vv_32f_P(broken, 0, table, 0, &s, 3), tenkNullPointerError);
+    EXPECT_EQ(s, 9.0F);
+}
+
+// Two tables are tested index by index: behind a null entry of one nothing is read of the other.
+TEST(DotProduct, TestsTablesIndexByIndex)
+{
+    float x = 1, s = 9;
+    const float* broken[] = {&x, nullptr};
+    const float* shorter[] = {&x};
+    EXPECT_EQ(tenkDotProduct_vav_32f_P(broken, 0, shorter, 0, &s, 2, 1), tenkNullPointerError);
+}
+
+// Calls a list member on eight objects of ones, of which one has a null entry, and returns how many results
+// stand.
+template <typename T>
+unsigned resultsBeforeNull(const std::string& codes, unsigned size, unsigned nullAt, unsigned count,
+                           bool second = false)
+{
+    const auto one = [] { return T(1); };
+    auto a = vectors<T>("_L", true, count, size);
+    auto b = vectors<T>("_L", codes == "vava", count, size);
+    a.fill(one), b.fill(one);
+    (second ? b : a).pointers()[nullAt] = nullptr;
+    std::vector<T> dst(count, T(-1));
+    EXPECT_EQ(
+        callByName("tenkDotProduct_" + codes + "_" + typeName<T>() + "_" + std::to_string(size) + "x1_L",
+                   {a.arguments(), b.arguments(), {pointer(dst.data()), word(count)}}),
+        tenkNullPointerError);
+    unsigned n = 0;
+    while (n < count && dst[n] == T(size))
+        ++n;
+    for (unsigned k = n; k < count; ++k)
+        EXPECT_EQ(dst[k], T(-1));
+    return n;
+}
+
+TEST(DotProduct, OfAListOfThreeOrFour32fElementsTestsFourEntriesAtATime)
+{
+    for (unsigned size : {3U, 4U}) {
+        EXPECT_EQ(resultsBeforeNull<float>("vav", size, 3, 8), 0U);
+        EXPECT_EQ(resultsBeforeNull<float>("vav", size, 6, 8), 4U);
+        EXPECT_EQ(resultsBeforeNull<float>("vav", size, 6, 7), 6U); // of the rest one by one
+    }
+}
+
+TEST(DotProduct, OfOtherListsTestsOneEntryAtATime)
+{
+    EXPECT_EQ(resultsBeforeNull<float>("vav", 5, 3, 8), 3U);
+    EXPECT_EQ(resultsBeforeNull<float>("vav", 6, 3, 8), 3U);
+    for (unsigned size : {3U, 4U, 5U, 6U}) {
+        EXPECT_EQ(resultsBeforeNull<double>("vav", size, 1, 8), 1U);
+        EXPECT_EQ(resultsBeforeNull<double>("vava", size, 1, 8), 1U);
+        EXPECT_EQ(resultsBeforeNull<float>("vava", size, 3, 8), 3U);
+        EXPECT_EQ(resultsBeforeNull<float>("vava", size, 6, 8, true), 6U);
+    }
+}
+
+// The results of a step lie on objects of the same step, which have been read by then, and of none before it.
+TEST(DotProduct, OfSomeArraysReadsAWholeStepBeforeItWrites)
+{
+    // Five objects of four elements, a step of four bytes apart: object k is k + 1 ... k + 4.
+    const float ones[] = {1, 1, 1, 1};
+    Floats x = {1, 2, 3, 4, 5, 6, 7, 8};
+    EXPECT_EQ(tenkDotProduct_vav_32f_4x1(x.data(), 4, ones, x.data() + 1, 4), tenkOk);
+    EXPECT_EQ(x, (Floats{1, 10, 14, 18, 22, 6, 7, 8}));
+    Floats y = {1, 2, 3, 4, 5, 6, 7, 8};
+    EXPECT_EQ(tenkDotProduct_vav_32f_3x1(y.data(), 4, ones, y.data() + 1, 4), tenkOk);
+    EXPECT_EQ(y, (Floats{1, 6, 9, 12, 15, 6, 7, 8}));
+    std::vector<double> z = {1, 2, 3, 4, 5, 6};
+    const double doubles[] = {1, 1, 1};
+    EXPECT_EQ(tenkDotProduct_vav_64f_3x1(z.data(), 8, doubles, z.data() + 1, 2), tenkOk);
+    EXPECT_EQ(z, (std::vector<double>{1, 6, 9, 4, 5, 6}));
+    // One at a time: 1 + 2 + 3 + 4 + 5 = 15 first, which is the first element of the next object.
+    Floats w = {1, 2, 3, 4, 5, 6, 7};
+    const float five[] = {1, 1, 1, 1, 1};
+    EXPECT_EQ(tenkDotProduct_vav_32f_5x1(w.data(), 4, five, w.data() + 1, 2), tenkOk);
+    EXPECT_EQ(w, (Floats{1, 15, 33, 4, 5, 6, 7})); // 15 + 3 + 4 + 5 + 6
+}
+
+TEST(DotProduct, PassesInfinitiesAndNaNsThrough)
+{
+    const float infinity = std::numeric_limits<float>::infinity();
+    const float x[] = {infinity, 1, 2}, zeros[] = {0, 0, 0}, ones[] = {1, 1, 1};
+    float s = 0;
+    EXPECT_EQ(tenkDotProduct_vv_32f_3x1(x, ones, &s), tenkOk);
+    EXPECT_EQ(s, infinity);
+    EXPECT_EQ(tenkDotProduct_vv_32f_3x1(x, zeros, &s), tenkOk);
+    EXPECT_TRUE(std::isnan(s));
+}
+
+} // namespace

@@ -1,0 +1,471 @@
+#include "tenk/lu_back_subst.h"
+
+#include <algorithm>
+#include <numeric>
+
+#include "families/factors.h"
+#include "tenk/lu_decomp.h"
+
+using namespace factors;
+
+namespace {
+
+using Rows = std::vector<std::uint32_t>;
+
+enum class Code
+{
+    mv,
+    mva,
+    mava
+};
+const char* text(Code c)
+{
+    return c == Code::mv ? "mv" : c == Code::mva ? "mva" : "mava";
+}
+
+// The two substitutions by hand.
+template <typename T, typename Factor>
+std::vector<T> solutionOf(Factor factor, const std::uint32_t* rows, const std::vector<T>& b)
+{
+    const std::size_t n = b.size();
+    std::vector<T> x(n);
+    for (std::size_t i = 0; i < n; ++i) {
+        volatile T sum = 0;
+        for (std::size_t j = 0; j < i; ++j) {
+            const volatile T product = factor(rows[i], j) * x[j];
+            sum = sum + product;
+        }
+        x[i] = i == 0 ? b[rows[0]] : b[rows[i]] - sum;
+    }
+    for (std::size_t i = n; i-- > 0;) {
+        volatile T sum = 0;
+        for (std::size_t j = i + 1; j < n; ++j) {
+            const volatile T product = factor(rows[i], j) * x[j];
+            sum = sum + product;
+        }
+        const volatile T difference = i + 1 < n ? x[i] - sum : x[i];
+        x[i] = difference / factor(rows[i], i);
+    }
+    return x;
+}
+
+template <typename T>
+bool stepsByFourBytes(Code code, Form form)
+{
+    return sizeof(T) == 8 && code == Code::mva && form == Form::list;
+}
+
+template <typename T>
+struct Call
+{
+    Call(Code code, unsigned fixed, Form form, std::size_t n, std::size_t count)
+        : name(nameOf<T>("LUBackSubst", text(code), fixed, form)),
+          code(code),
+          fixed(fixed),
+          form(form),
+          n(n),
+          count(count),
+          src1(form, code == Code::mava, false, n, n, count),
+          src2(form, code != Code::mv, true, 1, n, count),
+          dst(form, code != Code::mv, true, 1, n, count),
+          rowIndex(src1.count * n)
+    {
+    }
+    tenkStatus run() { return callByName(name, arguments()); }
+    Arguments arguments()
+    {
+        Arguments all;
+        src1.pass(all, code == Code::mva && !isTable(form));
+        rowIndexAt = all.size();
+        addPointer(all, rowIndex.data());
+        src2At = all.size();
+        src2.pass(all);
+        dstAt = all.size();
+        dst.pass(all);
+        orderAt = all.size();
+        if (!fixed)
+            addWord(all, static_cast<std::uint32_t>(n));
+        if (code != Code::mv)
+            addWord(all, static_cast<std::uint32_t>(count));
+        return all;
+    }
+    const std::uint32_t* rowsOf(std::size_t k) const
+    {
+        return rowIndex.data() + (code == Code::mava ? k * n : 0);
+    }
+    auto factorOf(std::size_t k) const
+    {
+        return [this, k](std::size_t i, std::size_t j) {
+            T x;
+            const unsigned char* at = src1.address(code == Code::mava ? k : 0, i, j);
+            if (stepsByFourBytes<T>(code, form))
+                at -= j * 4;
+            std::memcpy(&x, at, sizeof x);
+            return x;
+        };
+    }
+    // Random factors with pivots away from zero, arbitrary permutations, right-hand sides.
+    void fill(std::mt19937& random)
+    {
+        for (std::size_t k = 0; k < src1.count; ++k) {
+            Rows rows(n);
+            std::iota(rows.begin(), rows.end(), 0U);
+            std::shuffle(rows.begin(), rows.end(), random);
+            std::copy(rows.begin(), rows.end(), rowIndex.begin() + static_cast<long>(k * n));
+            src1.setObject(k, randomElements<T>(random, n * n));
+            for (std::size_t p = 0; p < n; ++p)
+                src1.set(k, rows[p], p, src1.get(k, rows[p], p) + (src1.get(k, rows[p], p) < 0 ? -1 : 1));
+        }
+        for (std::size_t k = 0; k < src2.count; ++k)
+            src2.setObject(k, randomElements<T>(random, n));
+    }
+
+    std::string name;
+    Code code;
+    unsigned fixed;
+    Form form;
+    std::size_t n, count;
+    Operand<T> src1, src2, dst;
+    Rows rowIndex;
+    std::size_t rowIndexAt = 0, src2At = 0, dstAt = 0, orderAt = 0;
+};
+
+constexpr Shape shapes[] = {{0, 1, 1}, {0, 2, 2}, {0, 3, 3}, {0, 7, 7},
+                            {3, 3, 3}, {4, 4, 4}, {5, 5, 5}, {6, 6, 6}};
+
+template <typename T, typename F>
+void eachCall(F f)
+{
+    for (const Shape& s : shapes)
+        for (Form form : forms) {
+            if (existsForOne(form)) {
+                Call<T> call(Code::mv, s.fixed, form, s.width, 1);
+                f(call);
+            }
+            for (Code code : {Code::mva, Code::mava})
+                for (std::size_t count : {1, 4, 11}) {
+                    Call<T> call(code, s.fixed, form, s.width, count);
+                    f(call);
+                }
+        }
+}
+
+template <typename T>
+class LUBackSubst : public ::testing::Test
+{
+};
+using Types = ::testing::Types<float, double>;
+TYPED_TEST_SUITE(LUBackSubst, Types);
+
+TYPED_TEST(LUBackSubst, EveryMemberSubstitutesForwardAndBackwardThroughAnyPermutation)
+{
+    std::mt19937 random(1);
+    eachCall<TypeParam>([&](auto& call) {
+        call.fill(random);
+        const auto factor = call.src1.memory;
+        auto untouched = call.dst.memory;
+        ASSERT_EQ(call.run(), tenkOk) << call.name;
+        for (std::size_t k = 0; k < call.dst.count; ++k) {
+            const auto expected =
+                solutionOf<TypeParam>(call.factorOf(k), call.rowsOf(k), call.src2.object(k));
+            ASSERT_TRUE(same(call.dst.object(k), expected)) << call.name << " object " << k;
+            for (std::size_t j = 0; j < call.n; ++j)
+                std::memcpy(untouched.data() + (call.dst.address(k, 0, j) - call.dst.memory.data()),
+                            call.dst.address(k, 0, j), sizeof(TypeParam));
+        }
+        EXPECT_EQ(call.dst.memory, untouched) << call.name;
+        EXPECT_EQ(call.src1.memory, factor) << call.name;
+    });
+}
+
+// Five members, among all that there are.
+TYPED_TEST(LUBackSubst, OnlyTheMvaListMembersOf64fStepByFourBytes)
+{
+    std::mt19937 random(2);
+    unsigned members = 0;
+    eachCall<TypeParam>([&](auto& call) {
+        if (call.n < 2 || call.count == 11 || (!call.fixed && call.n != 7))
+            return;
+        call.fill(random);
+        ASSERT_EQ(call.run(), tenkOk) << call.name;
+        const auto proper = [&](std::size_t i, std::size_t j) { return call.src1.get(0, i, j); };
+        const bool solves = bool(
+            same(call.dst.object(0), solutionOf<TypeParam>(proper, call.rowsOf(0), call.src2.object(0))));
+        EXPECT_EQ(solves, !stepsByFourBytes<TypeParam>(call.code, call.form)) << call.name;
+        members += !solves && call.count == 4;
+    });
+    EXPECT_EQ(members, sizeof(TypeParam) == 8 ? 5U : 0U);
+}
+
+TEST(LUBackSubstStep, AFactorStoredWithAStepOfFourBytesIsSolvedByTheFive)
+{
+    // One column apart by 4 bytes, a diagonal matrix would overlap itself; of order 1 the step does not show.
+    const double factor = 4, b[2] = {6, 10};
+    const double* const src2[2] = {b, b + 1};
+    double x[2];
+    double* const dst[2] = {x, x + 1};
+    const std::uint32_t r = 0;
+    EXPECT_EQ(tenkLUBackSubst_mva_64f_L(&factor, 0, 8, &r, src2, 0, dst, 0, 1, 2), tenkOk);
+    EXPECT_EQ(x[0], 1.5);
+    EXPECT_EQ(x[1], 2.5);
+}
+
+// Decomposes in one layout and solves from each other one.
+TYPED_TEST(LUBackSubst, AFactorMayBeReadInAnyLayoutAndSolvesTheSystem)
+{
+    using T = TypeParam;
+    std::mt19937 random(3);
+    for (Form written : forms)
+        for (Form read : forms)
+            for (Code code : {Code::mv, Code::mva, Code::mava})
+                for (unsigned fixed : {0, 3, 4, 5, 6}) {
+                    if (stepsByFourBytes<T>(code, read) || (code == Code::mv && !existsForOne(read)))
+                        continue;
+                    const std::size_t n = fixed ? fixed : 5, count = code == Code::mava ? 5 : 1;
+                    Operand<T> a(written, true, false, n, n, count, n * count),
+                        d = Operand<T>(written, true, false, n, n, count, n * count);
+                    Call<T> call(code, fixed, read, n, 5);
+                    call.fill(random);
+                    for (std::size_t k = 0; k < count; ++k)
+                        a.setObject(k, randomElements<T>(random, n * n));
+                    Operand<T> out(written, true, false, n, n, count, n * count);
+                    Arguments arguments;
+                    a.pass(arguments);
+                    addPointer(arguments, call.rowIndex.data());
+                    out.pass(arguments);
+                    if (!fixed)
+                        addWord(arguments, static_cast<std::uint32_t>(n));
+                    addWord(arguments, static_cast<std::uint32_t>(count));
+                    ASSERT_EQ(callByName(nameOf<T>("LUDecomp", "ma", fixed, written), arguments), tenkOk);
+                    for (std::size_t k = 0; k < count; ++k)
+                        call.src1.setObject(k, out.object(k));
+                    ASSERT_EQ(call.run(), tenkOk) << call.name;
+                    for (std::size_t k = 0; k < call.dst.count; ++k) {
+                        const std::size_t matrix = code == Code::mava ? k : 0;
+                        double scale = 1;
+                        for (std::size_t j = 0; j < n; ++j)
+                            scale = std::max(scale, double(std::abs(call.dst.get(k, 0, j))));
+                        for (std::size_t i = 0; i < n; ++i) {
+                            __float128 residual = -__float128(call.src2.get(k, 0, i));
+                            for (std::size_t j = 0; j < n; ++j)
+                                residual +=
+                                    __float128(a.get(matrix, i, j)) * __float128(call.dst.get(k, 0, j));
+                            ASSERT_LE(std::abs(double(residual)),
+                                      128 * scale * std::numeric_limits<T>::epsilon())
+                                << call.name;
+                        }
+                    }
+                }
+}
+
+TYPED_TEST(LUBackSubst, TheDivisionIsATrueOneByThePivot)
+{
+    // x / 3 and x (1 / 3) differ for some x; the solve has the quotient everywhere.
+    using T = TypeParam;
+    T x = 1;
+    const volatile T third = T{1} / 3;
+    for (;; x += 1) {
+        const volatile T product = x * third, quotient = x / 3;
+        if (product != quotient)
+            break;
+    }
+    const volatile T quotient = x / 3;
+    eachCall<T>([&](auto& call) {
+        if (stepsByFourBytes<T>(call.code, call.form))
+            return;
+        for (std::size_t k = 0; k < call.src1.count; ++k)
+            for (std::size_t i = 0; i < call.n; ++i) {
+                call.rowIndex[k * call.n + i] = static_cast<std::uint32_t>(i);
+                for (std::size_t j = 0; j < call.n; ++j)
+                    call.src1.set(k, i, j, i == j ? 3 : 0);
+            }
+        for (std::size_t k = 0; k < call.src2.count; ++k)
+            call.src2.setObject(k, std::vector<T>(call.n, x));
+        ASSERT_EQ(call.run(), tenkOk);
+        for (std::size_t k = 0; k < call.dst.count; ++k)
+            ASSERT_TRUE(same(call.dst.object(k), std::vector<T>(call.n, quotient))) << call.name;
+    });
+}
+
+TEST(LUBackSubstArithmetic, SumsStartAtPlusZero)
+{
+    // x[0] = 1, F(1, 0) = -0: the sum is +0 + -0 = +0, and -0 - +0 = -0; a sum of -0 alone would give +0.
+    const float factor[9] = {1, 0, 0, -0.0F, 1, 0, 0, 0, 1};
+    const std::uint32_t r[3] = {0, 1, 2};
+    const float b[3] = {1, -0.0F, 0};
+    float x[3];
+    ASSERT_EQ(tenkLUBackSubst_mv_32f_3x3(factor, 12, r, b, x), tenkOk);
+    EXPECT_TRUE(same(x[1], -0.0F));
+    const float bs[4][3] = {{1, -0.0F, 0}, {1, -0.0F, 0}, {1, -0.0F, 0}, {1, -0.0F, 0}};
+    float xs[4][3];
+    ASSERT_EQ(tenkLUBackSubst_mva_32f_3x3(factor, 99, 12, r, bs[0], 12, xs[0], 12, 4), tenkOk);
+    for (const auto& object : xs)
+        EXPECT_TRUE(same(object[1], -0.0F));
+}
+
+// ---------------------------------------------------------------------------------------------------------------
+// The documented edge cases
+// ---------------------------------------------------------------------------------------------------------------
+
+TEST(LUBackSubstEdges, ASystemOfOrder1IsOneDivision)
+{
+    const float f = 3, b = 2;
+    const std::uint32_t r = 0;
+    float x = 0;
+    EXPECT_EQ(tenkLUBackSubst_mv_32f(&f, 4, &r, &b, &x, 1), tenkOk);
+    EXPECT_EQ(x, 2.0F / 3.0F);
+}
+
+TYPED_TEST(LUBackSubst, InPlaceIsRightWithTheIdentityAndReadsWhatItWroteOtherwise)
+{
+    using T = TypeParam;
+    // L = 1, U = 1 and rows 1 0 2 3: x[0] = b[1] is written before x[1] = b[0] is read, so both are b[1].
+    const T identity[16] = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
+    const T exchanged[16] = {0, 1, 0, 0, 1, 0, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
+    const std::uint32_t straight[16] = {0, 1, 2, 3, 0, 1, 2, 3, 0, 1, 2, 3, 0, 1, 2, 3};
+    const std::uint32_t crossed[16] = {1, 0, 2, 3, 1, 0, 2, 3, 1, 0, 2, 3, 1, 0, 2, 3};
+    const auto solve = [](const T* factor, const std::uint32_t* rows, T* b) {
+        if constexpr (sizeof(T) == 4)
+            return tenkLUBackSubst_mava_32f_4x4(factor, 0, 16, rows, b, 16, b, 16, 4);
+        else
+            return tenkLUBackSubst_mava_64f_4x4(factor, 0, 32, rows, b, 32, b, 32, 4);
+    };
+    T b[16] = {1, 2, 3, 4, 5, 6, 7, 8, 1, 2, 3, 4, 5, 6, 7, 8};
+    ASSERT_EQ(solve(identity, straight, b), tenkOk);
+    const T same_[16] = {1, 2, 3, 4, 5, 6, 7, 8, 1, 2, 3, 4, 5, 6, 7, 8};
+    EXPECT_TRUE(std::equal(b, b + 16, same_));
+    ASSERT_EQ(solve(exchanged, crossed, b), tenkOk);
+    const T spread[16] = {2, 2, 3, 4, 6, 6, 7, 8, 2, 2, 3, 4, 6, 6, 7, 8};
+    EXPECT_TRUE(std::equal(b, b + 16, spread));
+}
+
+TYPED_TEST(LUBackSubst, ADestinationOverLaterRightHandSidesIsReadAsWritten)
+{
+    using T = TypeParam;
+    const T identity[9] = {1, 0, 0, 0, 1, 0, 0, 0, 1};
+    const std::uint32_t rows[3] = {0, 1, 2};
+    T memory[24];
+    for (int e = 0; e < 24; ++e)
+        memory[e] = static_cast<T>(e);
+    if constexpr (sizeof(T) == 4)
+        ASSERT_EQ(tenkLUBackSubst_mva_32f_3x3(identity, 1, 12, rows, memory, 12, memory + 3, 12, 7), tenkOk);
+    else
+        ASSERT_EQ(tenkLUBackSubst_mva_64f_3x3(identity, 1, 24, rows, memory, 24, memory + 3, 24, 7), tenkOk);
+    for (int e = 0; e < 24; ++e)
+        EXPECT_EQ(memory[e], e % 3);
+}
+
+TYPED_TEST(LUBackSubst, AZeroPivotGivesInfinitiesAndNaNsWithOk)
+{
+    using T = TypeParam;
+    eachCall<T>([&](auto& call) {
+        if (call.n != 3 || stepsByFourBytes<T>(call.code, call.form))
+            return;
+        for (std::size_t k = 0; k < call.src1.count; ++k) {
+            call.src1.setObject(k, {1, 1, 0, 0, 1, 1, 0, 0, 0});
+            for (std::uint32_t i = 0; i < 3; ++i)
+                call.rowIndex[k * 3 + i] = i;
+        }
+        for (std::size_t k = 0; k < call.src2.count; ++k)
+            call.src2.setObject(k, {1, 1, 1});
+        ASSERT_EQ(call.run(), tenkOk);
+        for (std::size_t k = 0; k < call.dst.count; ++k) {
+            const T infinity = std::numeric_limits<T>::infinity();
+            EXPECT_EQ(call.dst.get(k, 0, 2), infinity) << call.name;
+            EXPECT_EQ(call.dst.get(k, 0, 1), -infinity) << call.name;
+            EXPECT_TRUE(std::isnan(call.dst.get(k, 0, 0))) << call.name; // infinity x 0 in the sum
+        }
+    });
+}
+
+TYPED_TEST(LUBackSubst, ANaNAboveTheDiagonalReachesTheUnknownsAtAndBeforeItsRow)
+{
+    using T = TypeParam;
+    std::mt19937 random(4);
+    eachCall<T>([&](auto& call) {
+        if (call.n < 3 || stepsByFourBytes<T>(call.code, call.form))
+            return;
+        call.fill(random);
+        for (std::size_t k = 0; k < call.src1.count; ++k)
+            call.src1.set(k, call.rowsOf(k)[1], 2, std::numeric_limits<T>::quiet_NaN());
+        ASSERT_EQ(call.run(), tenkOk);
+        for (std::size_t k = 0; k < call.dst.count; ++k)
+            for (std::size_t j = 0; j < call.n; ++j)
+                EXPECT_EQ(std::isnan(call.dst.get(k, 0, j)), j <= 1) << call.name << j;
+    });
+}
+
+TYPED_TEST(LUBackSubst, NullComesBeforeSizeAndSizeBeforeCount)
+{
+    std::mt19937 random(5);
+    eachCall<TypeParam>([&](auto& call) {
+        call.fill(random);
+        const auto memory = call.dst.memory;
+        Arguments all = call.arguments();
+        if (call.code != Code::mv) {
+            all.back().bits = 0;
+            EXPECT_EQ(callByName(call.name, all), tenkOk) << call.name;
+        }
+        if (!call.fixed) {
+            all[call.orderAt].bits = 0;
+            EXPECT_EQ(callByName(call.name, all), tenkSizeError) << call.name;
+        }
+        for (std::size_t at : {std::size_t{0}, call.rowIndexAt, call.src2At, call.dstAt}) {
+            Arguments null = all;
+            null[at].bits = 0;
+            EXPECT_EQ(callByName(call.name, null), tenkNullPointerError) << call.name;
+        }
+        EXPECT_EQ(call.dst.memory, memory) << call.name;
+    });
+}
+
+TYPED_TEST(LUBackSubst, ANullEntryOfATableFailsBeforeAnythingIsWritten)
+{
+    std::mt19937 random(6);
+    eachCall<TypeParam>([&](auto& call) {
+        if (!isTable(call.form))
+            return;
+        call.fill(random);
+        const auto memory = call.dst.memory;
+        for (auto* operand : {&call.src1, &call.src2, &call.dst}) {
+            unsigned char*& last = operand->pointers[operand->rows * operand->columns - 1];
+            unsigned char* const kept = last;
+            last = nullptr;
+            Arguments all = call.arguments();
+            EXPECT_EQ(callByName(call.name, all), tenkNullPointerError) << call.name;
+            if (call.code != Code::mv) {
+                all.back().bits = 0;
+                EXPECT_EQ(callByName(call.name, all), tenkNullPointerError) << call.name;
+            }
+            last = kept;
+        }
+        EXPECT_EQ(call.dst.memory, memory) << call.name;
+    });
+}
+
+TYPED_TEST(LUBackSubst, ANullEntryOfAListFailsWhenItsObjectIsReached)
+{
+    std::mt19937 random(7);
+    eachCall<TypeParam>([&](auto& call) {
+        if (!isList(call.form) || call.count < 4)
+            return;
+        for (auto* operand : {&call.src1, &call.src2, &call.dst})
+            for (std::size_t bad : {std::size_t{0}, std::size_t{2}, call.count - 1}) {
+                if (!operand->array)
+                    continue;
+                call.fill(random);
+                std::fill(call.dst.memory.begin(), call.dst.memory.end(), std::uint8_t{1});
+                unsigned char* const kept = operand->pointers[bad];
+                operand->pointers[bad] = nullptr;
+                EXPECT_EQ(call.run(), tenkNullPointerError) << call.name;
+                operand->pointers[bad] = kept;
+                for (std::size_t k = 0; k < call.count; ++k) {
+                    const auto solved =
+                        solutionOf<TypeParam>(call.factorOf(k), call.rowsOf(k), call.src2.object(k));
+                    EXPECT_EQ(bool(same(call.dst.object(k), solved)), k < bad) << call.name << k;
+                }
+            }
+    });
+}
+
+} // namespace

@@ -1,0 +1,310 @@
+// Saxpy: edge cases by hand, and all members against the formula.
+#include "tenk.h"
+
+#include <cmath>
+#include <cstdint>
+#include <cstring>
+#include <gtest/gtest.h>
+#include <limits>
+#include <numeric>
+#include <random>
+#include <vector>
+
+#include "support/objects.h"
+
+namespace {
+
+using namespace support;
+using Floats = std::vector<float>;
+
+constexpr float infinity = std::numeric_limits<float>::infinity();
+
+template <typename T>
+std::string nameOf(const std::string& codes, unsigned size, const std::string& layout)
+{
+    return "tenkSaxpy_" + codes + "_" + typeName<T>() + (size == 0 ? "" : "_" + std::to_string(size) + "x1") +
+           layout;
+}
+
+Arguments sizes(unsigned size, unsigned length, unsigned count)
+{
+    Arguments a;
+    if (size == 0)
+        a.push_back(word(length));
+    if (count > 0)
+        a.push_back(word(count));
+    return a;
+}
+
+template <typename T>
+void checkMember(const std::string& codes, unsigned size, const std::string& layout)
+{
+    const bool array1 = codes == "vav" || codes == "vava", array2 = codes == "vva" || codes == "vava";
+    const bool array = array1 || array2;
+    const unsigned count = array ? 5 : 1;
+    const std::string name = nameOf<T>(codes, size, layout);
+    std::mt19937 random(size);
+    std::uniform_real_distribution<T> number(-1, 1);
+    for (unsigned length :
+         size == 0 ? std::vector<unsigned>{1, 2, 7, 8, 19, 40} : std::vector<unsigned>{size}) {
+        auto a = vectors<T>(layout, array1, count, length), b = vectors<T>(layout, array2, count, length);
+        auto dst = vectors<T>(layout, array, count, length),
+             expected = vectors<T>(layout, array, count, length);
+        a.fill([&] { return number(random); });
+        b.fill([&] { return number(random); });
+        const T c = number(random);
+        ASSERT_EQ(callByName(name, {a.arguments(),
+                                    {value(c)},
+                                    b.arguments(),
+                                    dst.arguments(),
+                                    sizes(size, length, array ? count : 0)}),
+                  tenkOk)
+            << name;
+        for (unsigned k = 0; k < count; ++k)
+            for (unsigned j = 0; j < length; ++j) {
+                const T product = a.at(k, j) * c;
+                expected.at(k, j) = product + b.at(k, j);
+            }
+        EXPECT_EQ(dst.memory(), expected.memory()) << name; // what is between the elements, too
+    }
+}
+
+TEST(Saxpy, FollowsTheFormulaInAllMembers)
+{
+    for (const char* codes : {"vv", "vav", "vva", "vava"})
+        for (unsigned size : {0U, 3U, 4U, 5U, 6U})
+            for (const std::string& layout : codes == std::string("vv") ? singleLayouts : arrayLayouts) {
+                checkMember<float>(codes, size, layout);
+                checkMember<double>(codes, size, layout);
+            }
+}
+
+// 1 + 2^-12 squared is 1 + 2^-11 + 2^-24, rounded to 1 + 2^-11 before the sum; fused, 2^-24 would be left.
+TEST(Saxpy, RoundsTheProductBeforeTheSum)
+{
+    const float x = 1.0F + 0x1p-12F, y = -(1.0F + 0x1p-11F);
+    float z = 9;
+    EXPECT_EQ(tenkSaxpy_vv_32f(&x, x, &y, &z, 1), tenkOk);
+    EXPECT_EQ(z, 0.0F);
+}
+
+TEST(Saxpy, FormsTheProductForEveryValue)
+{
+    const float x[] = {infinity, 1, 2}, y[] = {1, 2, 3};
+    float z[3] = {};
+    EXPECT_EQ(tenkSaxpy_vv_32f_3x1(x, 0, y, z), tenkOk);
+    EXPECT_TRUE(std::isnan(z[0]));
+    EXPECT_EQ(z[1], 2.0F);
+}
+
+// All lengths up to 40 and two long ones at all alignments of the destination, odd ones among them.
+template <typename T>
+void checkAlignments(tenkStatus (*function)(const T*, T, const T*, T*, std::uint32_t))
+{
+    std::vector<unsigned> lengths = {100, 1000};
+    for (unsigned n = 1; n <= 40; ++n)
+        lengths.push_back(n);
+    std::mt19937 random(1);
+    std::uniform_real_distribution<T> number(-1, 1);
+    alignas(16) char xs[1000 * sizeof(T) + 16], ys[1000 * sizeof(T) + 16], zs[1000 * sizeof(T) + 32];
+    for (const unsigned n : lengths)
+        for (unsigned at = 0; at < 16 * 16; ++at) {
+            const unsigned xAt = at * 5 % 16, yAt = at / 16, zAt = at % 16;
+            std::vector<T> x(n), y(n), expected(n), z(n);
+            for (unsigned i = 0; i < n; ++i) {
+                x[i] = number(random), y[i] = number(random);
+                const T product = x[i] * T(0.3);
+                expected[i] = product + y[i];
+            }
+            std::memcpy(xs + xAt, x.data(), n * sizeof(T));
+            std::memcpy(ys + yAt, y.data(), n * sizeof(T));
+            std::memset(zs, 1, sizeof zs);
+            const auto address = [](char* p, unsigned offset) {
+                return reinterpret_cast<std::uintptr_t>(p) + offset;
+            };
+            ASSERT_EQ(function(reinterpret_cast<const T*>(address(xs, xAt)), T(0.3),
+                               reinterpret_cast<const T*>(address(ys, yAt)),
+                               reinterpret_cast<T*>(address(zs, zAt)), n),
+                      tenkOk);
+            std::memcpy(z.data(), zs + zAt, n * sizeof(T));
+            ASSERT_EQ(z, expected) << n << " elements at " << zAt;
+            unsigned around = 0;
+            for (unsigned b = 0; b < sizeof zs; ++b)
+                around += (b < zAt || b >= zAt + n * sizeof(T)) && zs[b] == 1;
+            ASSERT_EQ(around, sizeof zs - n * sizeof(T)) << "bytes around the destination";
+        }
+}
+
+TEST(Saxpy, IsTheSameAtAllLengthsAndAlignments)
+{
+    checkAlignments<float>(tenkSaxpy_vv_32f);
+    checkAlignments<double>(tenkSaxpy_vv_64f);
+}
+
+// The plain loop in ascending order, on a copy of the memory, at all distances of the destination from a
+// source.
+template <typename T>
+void checkOverlap(tenkStatus (*function)(const T*, T, const T*, T*, std::uint32_t))
+{
+    for (unsigned n : {1U, 8U, 9U, 11U, 20U, 40U, 100U})
+        for (int bytes = -40; bytes <= 40; ++bytes)
+            for (bool second : {false, true}) {
+                std::vector<T> memory(n + 32), other(n);
+                std::iota(memory.begin(), memory.end(), T(1));
+                std::iota(other.begin(), other.end(), T(-50));
+                std::vector<T> expected = memory;
+                const auto at = [&](std::vector<T>& v, unsigned j, int offset) {
+                    return reinterpret_cast<char*>(v.data() + 12 + j) + offset;
+                };
+                for (unsigned j = 0; j < n; ++j) {
+                    T x;
+                    std::memcpy(&x, at(expected, j, 0), sizeof x);
+                    const T product = (second ? other[j] : x) * T(0.5);
+                    const T sum = product + (second ? x : other[j]);
+                    std::memcpy(at(expected, j, bytes), &sum, sizeof sum);
+                }
+                const T* const src = memory.data() + 12;
+                T* const dst = reinterpret_cast<T*>(reinterpret_cast<std::uintptr_t>(src) +
+                                                    static_cast<std::uintptr_t>(std::intptr_t{bytes}));
+                ASSERT_EQ(function(second ? other.data() : src, T(0.5), second ? src : other.data(), dst, n),
+                          tenkOk);
+                ASSERT_EQ(std::memcmp(memory.data(), expected.data(), memory.size() * sizeof(T)), 0)
+                    << n << " elements, " << bytes << " bytes apart";
+            }
+}
+
+TEST(Saxpy, OverlappingGivesTheResultOfTheAscendingLoop)
+{
+    checkOverlap<float>(tenkSaxpy_vv_32f);
+    checkOverlap<double>(tenkSaxpy_vv_64f);
+}
+
+TEST(Saxpy, OneElementAboveItsSourceRunsThrough)
+{
+    Floats x(21, 1);
+    const Floats zeros(20, 0);
+    EXPECT_EQ(tenkSaxpy_vv_32f(x.data(), 2, zeros.data(), x.data() + 1, 20), tenkOk);
+    for (std::size_t j = 0; j < 21; ++j)
+        EXPECT_EQ(x[j], std::ldexp(1.0F, static_cast<int>(j)));
+}
+
+template <typename T>
+void checkInPlace(unsigned size, const std::string& layout)
+{
+    const unsigned count = 5, length = size == 0 ? 9 : size;
+    for (bool second : {false, true}) {
+        auto a = vectors<T>(layout, true, count, length), b = vectors<T>(layout, true, count, length);
+        auto expected = vectors<T>(layout, true, count, length);
+        T n = 1;
+        a.fill([&] { return n = n + 1; }), b.fill([&] { return n = n + 3; });
+        for (unsigned k = 0; k < count; ++k)
+            for (unsigned j = 0; j < length; ++j)
+                expected.at(k, j) = a.at(k, j) * T(3) + b.at(k, j);
+        auto& dst = second ? b : a;
+        ASSERT_EQ(
+            callByName(
+                nameOf<T>("vava", size, layout),
+                {a.arguments(), {value(T(3))}, b.arguments(), dst.arguments(), sizes(size, length, count)}),
+            tenkOk);
+        EXPECT_EQ(dst.memory(), expected.memory()) << nameOf<T>("vava", size, layout);
+    }
+}
+
+TEST(Saxpy, InPlaceIsExact)
+{
+    for (unsigned size : {0U, 3U, 4U, 5U, 6U})
+        for (const std::string& layout : arrayLayouts) {
+            checkInPlace<float>(size, layout);
+            checkInPlace<double>(size, layout);
+        }
+}
+
+// Fixed sizes, too, go element by element: 2 x 1 lands on the element that is read next.
+TEST(Saxpy, OfFixedSizeOneElementAboveItsSourceRunsThrough)
+{
+    const Floats zeros(8, 0);
+    Floats x(8, 1);
+    EXPECT_EQ(tenkSaxpy_vv_32f_6x1(x.data(), 2, zeros.data(), x.data() + 1), tenkOk);
+    EXPECT_EQ(x, (Floats{1, 2, 4, 8, 16, 32, 64, 1}));
+    Floats y(8, 1);
+    const float* list[] = {y.data()};
+    const float* zero[] = {zeros.data()};
+    float* dst[] = {y.data() + 1};
+    EXPECT_EQ(tenkSaxpy_vava_32f_3x1_L(list, 0, 2, zero, 0, dst, 0, 1), tenkOk);
+    EXPECT_EQ(y, (Floats{1, 2, 4, 8, 1, 1, 1, 1}));
+    // Batches without gaps, one element apart.
+    Floats z(13, 1);
+    const Floats more(12, 0);
+    EXPECT_EQ(tenkSaxpy_vava_32f_4x1(z.data(), 16, 2, more.data(), 16, z.data() + 1, 16, 3), tenkOk);
+    for (std::size_t j = 0; j < 13; ++j)
+        EXPECT_EQ(z[j], std::ldexp(1.0F, static_cast<int>(j)));
+}
+
+TEST(Saxpy, TestsPointersThenLengthThenTablesThenCount)
+{
+    float x[4] = {}, z[4] = {9, 9, 9, 9};
+    EXPECT_EQ(tenkSaxpy_vv_32f(nullptr, 1, x, z, 0), tenkNullPointerError);
+    EXPECT_EQ(tenkSaxpy_vv_32f(x, 1, nullptr, z, 0), tenkNullPointerError);
+    EXPECT_EQ(tenkSaxpy_vv_32f(x, 1, x, nullptr, 0), tenkNullPointerError);
+    EXPECT_EQ(tenkSaxpy_vv_32f(x, 1, x, z, 0), tenkSizeError);
+    EXPECT_EQ(tenkSaxpy_vava_32f(x, 0, 1, x, 0, z, 0, 0, 0), tenkSizeError);
+    EXPECT_EQ(tenkSaxpy_vava_32f(x, 0, 1, x, 0, z, 0, 4, 0), tenkOk);
+    const float* from[] = {x, x, x};
+    const float* broken[] = {x, x, nullptr};
+    float* to[] = {z, z, z};
+    float* brokenTo[] = {z, z, nullptr};
+    EXPECT_EQ(tenkSaxpy_vav_32f_P(broken, 0, 1, from, 0, to, 0, 3, 0), tenkNullPointerError);
+    EXPECT_EQ(tenkSaxpy_vav_32f_P(from, 0, 1, broken, 0, to, 0, 3, 0), tenkNullPointerError);
+    EXPECT_EQ(tenkSaxpy_vav_32f_P(from, 0, 1, from, 0, brokenTo, 0, 3, 2), tenkNullPointerError);
+    EXPECT_EQ(tenkSaxpy_vav_32f_P(from, 0, 1, from, 0, brokenTo, 0, 2, 0), tenkOk);
+    EXPECT_EQ(tenkSaxpy_vva_32f_3x1_PS2(from, 0, 1, from, 0, 4, brokenTo, 0, 4, 0), tenkNullPointerError);
+    EXPECT_EQ(tenkSaxpy_vav_32f_3x1_L(broken, 0, 1, x, to, 0, 0), tenkOk);
+    EXPECT_EQ(z[0], 9.0F);
+}
+
+TEST(Saxpy, OfOnePairBehindTablesTestsEntriesElementByElement)
+{
+    for (unsigned which = 0; which < 3; ++which)
+        for (unsigned size : {0U, 4U}) {
+            auto a = vectors<float>("_P", false, 1, 4), b = vectors<float>("_P", false, 1, 4),
+                 dst = vectors<float>("_P", false, 1, 4);
+            a.fill([] { return 2.0F; }), b.fill([] { return 1.0F; }), dst.fill([] { return 9.0F; });
+            (which == 0 ? a : which == 1 ? b : dst).pointers()[2] = nullptr;
+            EXPECT_EQ(
+                callByName(nameOf<float>("vv", size, "_P"),
+                           {a.arguments(), {value(3.0F)}, b.arguments(), dst.arguments(), sizes(size, 4, 0)}),
+                tenkNullPointerError);
+            EXPECT_EQ(dst.at(0, 0), 7.0F);
+            EXPECT_EQ(dst.at(0, 1), 7.0F);
+            EXPECT_EQ(dst.at(0, 2), 9.0F);
+            EXPECT_EQ(dst.at(0, 3), 9.0F);
+        }
+}
+
+TEST(Saxpy, OfListsTestsEntriesObjectByObject)
+{
+    for (unsigned which = 0; which < 3; ++which)
+        for (const char* codes : {"vav", "vva", "vava"})
+            for (unsigned size : {0U, 3U, 4U}) {
+                if ((which == 0 && codes == std::string("vva")) ||
+                    (which == 1 && codes == std::string("vav")))
+                    continue;
+                const bool array1 = codes != std::string("vva"), array2 = codes != std::string("vav");
+                const unsigned length = size == 0 ? 5 : size;
+                auto a = vectors<float>("_L", array1, 3, length), b = vectors<float>("_L", array2, 3, length),
+                     dst = vectors<float>("_L", true, 3, length);
+                a.fill([] { return 2.0F; }), b.fill([] { return 1.0F; }), dst.fill([] { return 9.0F; });
+                (which == 0 ? a : which == 1 ? b : dst).pointers()[1] = nullptr;
+                EXPECT_EQ(callByName(nameOf<float>(codes, size, "_L"), {a.arguments(),
+                                                                        {value(3.0F)},
+                                                                        b.arguments(),
+                                                                        dst.arguments(),
+                                                                        sizes(size, length, 3)}),
+                          tenkNullPointerError);
+                EXPECT_EQ(dst.at(0, length - 1), 7.0F);
+                EXPECT_EQ(dst.at(1, 0), 9.0F);
+                EXPECT_EQ(dst.at(2, 0), 9.0F);
+            }
+}
+
+} // namespace

@@ -1,0 +1,189 @@
+// Trace: edge cases by hand, and all members against the plain sum.
+#include "tenk.h"
+
+#include <bit>
+#include <cmath>
+#include <cstdint>
+#include <gtest/gtest.h>
+#include <limits>
+#include <random>
+#include <vector>
+
+#include "support/objects.h"
+
+namespace {
+
+using namespace support;
+using Floats = std::vector<float>;
+
+std::uint32_t bits(float x)
+{
+    return std::bit_cast<std::uint32_t>(x);
+}
+
+template <typename T>
+std::string nameOf(bool array, unsigned size, const std::string& layout)
+{
+    const std::string n = std::to_string(size);
+    return std::string("tenkTrace_") + (array ? "ma_" : "m_") + typeName<T>() +
+           (size == 0 ? "" : "_" + n + "x" + n) + layout;
+}
+
+Arguments sizes(unsigned size, unsigned order)
+{
+    return size == 0 ? Arguments{word(order)} : Arguments{};
+}
+
+template <typename T>
+void checkMember(bool array, unsigned size, const std::string& layout)
+{
+    const unsigned count = array ? 7 : 1, order = size == 0 ? 8 : size;
+    const std::string name = nameOf<T>(array, size, layout);
+    std::mt19937 random(size);
+    std::uniform_real_distribution<T> number(-1, 1);
+    auto a = matrices<T>(layout, array, count, order, order);
+    a.fill([&] { return number(random); });
+    std::vector<T> dst(count + 1, T(9));
+    Arguments counts;
+    if (array)
+        counts.push_back(word(count));
+    ASSERT_EQ(callByName(name, {a.arguments(), sizes(size, order), {pointer(dst.data())}, counts}), tenkOk)
+        << name;
+    for (unsigned k = 0; k < count; ++k) {
+        T s = a.at(k, 0, 0);
+        for (unsigned i = 1; i < order; ++i)
+            s = s + a.at(k, i, i);
+        EXPECT_EQ(dst[k], s) << name << ", object " << k;
+    }
+    EXPECT_EQ(dst[count], T(9)) << name;
+
+    // A diagonal of -0.
+    a.fill([] { return T(-0.0); });
+    ASSERT_EQ(callByName(name, {a.arguments(), sizes(size, order), {pointer(dst.data())}, counts}), tenkOk)
+        << name;
+    const bool straight = size != 0 && (layout.empty() || layout == "_L");
+    for (unsigned k = 0; k < count; ++k) {
+        EXPECT_EQ(dst[k], T(0));
+        EXPECT_EQ(std::signbit(dst[k]), straight) << name << ", object " << k;
+    }
+}
+
+TEST(Trace, AddsTheDiagonalInOrderAndStartsFromZeroButForFixedSizesOfAdjacentElements)
+{
+    for (bool array : {false, true})
+        for (unsigned size : {0U, 3U, 4U, 5U, 6U})
+            for (const std::string& layout : array ? arrayLayouts : singleLayouts) {
+                checkMember<float>(array, size, layout);
+                checkMember<double>(array, size, layout);
+            }
+}
+
+TEST(Trace, OfOrderOneIsTheElementAndMinusZeroBecomesPlusZero)
+{
+    float x = 3, t = 9;
+    EXPECT_EQ(tenkTrace_m_32f(&x, 4, 1, &t), tenkOk);
+    EXPECT_EQ(t, 3.0F);
+    x = -0.0F;
+    EXPECT_EQ(tenkTrace_m_32f(&x, 4, 1, &t), tenkOk);
+    EXPECT_EQ(bits(t), 0U);
+}
+
+TEST(Trace, PassesNaNsThroughAndReadsNothingBesideTheDiagonal)
+{
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+    const float x[] = {1, nan, nan, nan, 2, nan, nan, nan, 3}, y[] = {1, 0, 0, 0, nan, 0, 0, 0, 3};
+    float t = 9;
+    EXPECT_EQ(tenkTrace_m_32f_3x3(x, 12, &t), tenkOk);
+    EXPECT_EQ(t, 6.0F);
+    EXPECT_EQ(tenkTrace_m_32f(x, 12, 3, &t), tenkOk);
+    EXPECT_EQ(t, 6.0F);
+    EXPECT_EQ(tenkTrace_m_32f_3x3(y, 12, &t), tenkOk);
+    EXPECT_TRUE(std::isnan(t));
+}
+
+TEST(Trace, TestsPointersThenOrderThenCount)
+{
+    float x[9] = {}, t = 9;
+    EXPECT_EQ(tenkTrace_m_32f(nullptr, 0, 0, &t), tenkNullPointerError);
+    EXPECT_EQ(tenkTrace_m_32f(x, 0, 0, nullptr), tenkNullPointerError);
+    EXPECT_EQ(tenkTrace_m_32f(x, 0, 0, &t), tenkSizeError);
+    EXPECT_EQ(tenkTrace_ma_32f(x, 0, 0, 0, &t, 0), tenkSizeError);
+    EXPECT_EQ(tenkTrace_ma_32f(x, 0, 0, 3, &t, 0), tenkOk);
+    EXPECT_EQ(tenkTrace_ma_32f_3x3(x, 0, 0, nullptr, 0), tenkNullPointerError);
+    EXPECT_EQ(tenkTrace_ma_32f_3x3(x, 0, 0, &t, 0), tenkOk);
+    EXPECT_EQ(t, 9.0F);
+}
+
+// dst lies on element (2, 2), which is 4: it holds 0, 1, 1 + 2, when its turn comes.
+TEST(Trace, OnTheDiagonalChangesWhatTheRunningSumAdds)
+{
+    Floats x = {1, 0, 0, 0, 2, 0, 0, 0, 4};
+    EXPECT_EQ(tenkTrace_m_32f(x.data(), 12, 3, &x[8]), tenkOk);
+    EXPECT_EQ(x[8], 6.0F); // 3 + 3
+    x[8] = 4;
+    EXPECT_EQ(tenkTrace_m_32f_3x3_S2(x.data(), 12, 4, &x[8]), tenkOk);
+    EXPECT_EQ(x[8], 6.0F);
+    x[8] = 4;
+    EXPECT_EQ(tenkTrace_m_32f_3x3(x.data(), 12, &x[8]), tenkOk);
+    EXPECT_EQ(x[8], 7.0F);
+    // On the first element: it is set to 0 before it is read.
+    EXPECT_EQ(tenkTrace_m_32f(x.data(), 12, 2, &x[0]), tenkOk);
+    EXPECT_EQ(x[0], 2.0F);
+}
+
+TEST(Trace, OfOneMatrixBehindATableTestsTheDiagonalAndLeavesThePartialSum)
+{
+    const float x[] = {1, 2, 3};
+    const float* table[9] = {};
+    table[0] = &x[0], table[4] = &x[1], table[8] = &x[2];
+    float t = 9;
+    EXPECT_EQ(tenkTrace_m_32f_3x3_P(table, 0, &t), tenkOk); // null pointers beside the diagonal
+    EXPECT_EQ(t, 6.0F);
+    EXPECT_EQ(tenkTrace_m_32f_P(table, 0, 3, &t), tenkOk);
+    EXPECT_EQ(t, 6.0F);
+    table[8] = nullptr;
+    EXPECT_EQ(tenkTrace_m_32f_3x3_P(table, 0, &t), tenkNullPointerError);
+    EXPECT_EQ(t, 3.0F);
+    table[0] = nullptr;
+    EXPECT_EQ(tenkTrace_m_32f_P(table, 0, 3, &t), tenkNullPointerError);
+    EXPECT_EQ(bits(t), 0U);
+}
+
+TEST(Trace, OfAnArrayBehindTablesTestsTheFirstRowAndNotTheDiagonal)
+{
+    const float x[] = {1, 2, 3};
+    const float* table[9] = {};
+    table[0] = &x[0], table[4] = &x[1], table[8] = &x[2];
+    float t = 9;
+    table[1] = x;
+    EXPECT_EQ(tenkTrace_ma_32f_3x3_P(table, 0, &t, 1), tenkNullPointerError);
+    EXPECT_EQ(tenkTrace_ma_32f_3x3_P(table, 0, &t, 0), tenkNullPointerError);
+    EXPECT_EQ(tenkTrace_ma_32f_PS2(table, 0, 4, 3, &t, 0), tenkNullPointerError);
+    EXPECT_EQ(t, 9.0F);
+    table[2] = x;
+    EXPECT_EQ(tenkTrace_ma_32f_3x3_P(table, 0, &t, 1), tenkOk);
+    EXPECT_EQ(t, 6.0F);
+    table[4] = nullptr; // on the diagonal, below the first row: not tested
+    EXPECT_EQ(tenkTrace_ma_32f_3x3_P(table, 0, &t, 0), tenkOk);
+    EXPECT_EQ(tenkTrace_ma_32f_P(table, 0, 3, &t, 0), tenkOk);
+    EXPECT_EQ(tenkTrace_ma_64f_3x3_PS2(reinterpret_cast<const double**>(table), 0, 8, nullptr, 0),
+              tenkNullPointerError);
+}
+
+TEST(Trace, OfAListTestsEntriesObjectByObject)
+{
+    for (const std::string layout : {"_L", "_LS2"})
+        for (unsigned size : {0U, 3U, 6U}) {
+            const unsigned order = size == 0 ? 4 : size;
+            auto a = matrices<double>(layout, true, 4, order, order);
+            a.fill([] { return 1.0; });
+            a.pointers()[2] = nullptr;
+            std::vector<double> t(4, 9);
+            EXPECT_EQ(callByName(nameOf<double>(true, size, layout),
+                                 {a.arguments(), sizes(size, order), {pointer(t.data()), word(4)}}),
+                      tenkNullPointerError);
+            EXPECT_EQ(t, (std::vector<double>{double(order), double(order), 9, 9}));
+        }
+}
+
+} // namespace
