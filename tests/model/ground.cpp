@@ -88,8 +88,12 @@ void checkFactoring(const Ground& source, const Ground& target, const Ground& be
 bool nullInAnyTable(Memory& memory, std::initializer_list<const Operand*> operands)
 {
     std::uint32_t longest = 0;
-    for (const Operand* operand : operands)
-        longest = std::max(longest, operand->isTable() ? operand->tableLength() : 0);
+    for (const Operand* operand : operands) {
+        if (!operand->isTable())
+            continue;
+        longest = std::max(longest, operand->tableLength());
+        memory.mayRead(operand->pointer(), operand->tableLength() * sizeof(Address));
+    }
     for (std::uint32_t index = 0; index < longest; ++index) {
         for (const Operand* operand : operands) {
             if (operand->isTable() && index < operand->tableLength() && operand->nullEntry(memory, index))

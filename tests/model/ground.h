@@ -45,7 +45,8 @@ void undecidedIf(bool condition, const char* reason);
 void checkFactoring(const Ground& source, const Ground& target, const Ground& besides, Ground& earlier);
 
 // As nullInTables, and in functions without an array as well: index by index, at each index in the order in
-// which the operands are given.
+// which the operands are given. Which of several null entries is found first cannot be told, and the tables
+// may be read to their ends.
 bool nullInAnyTable(Memory& memory, std::initializer_list<const Operand*> operands);
 
 } // namespace model

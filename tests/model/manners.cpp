@@ -27,6 +27,8 @@ Manners mannersOf(const Name& name)
     case Root::Det:
     case Root::LUDecomp:
     case Root::LUBackSubst:
+        // Objects behind one that is singular may have been computed along with it.
+        manners.flagsOpen = name.root == Root::LUDecomp && name.anyArray() && !name.general();
         manners.largestSize = 8;
         manners.largeSizes = false;
         manners.plainPercent = 60;
@@ -45,6 +47,7 @@ Manners mannersOf(const Name& name)
         break;
     case Root::QRDecomp:
     case Root::QRBackSubst:
+        manners.flagsOpen = name.root == Root::QRDecomp && name.anyArray() && !name.general();
         manners.largestSize = 8;
         manners.largeSizes = false;
         manners.tall = true;
