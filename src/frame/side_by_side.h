@@ -261,7 +261,7 @@ struct SourcesAndDestinations
             if (!onPagesOf(read[0], read[g]))
                 return false;
             for (std::size_t earlier = 0; earlier < g; ++earlier)
-                if (!apart(written[earlier], read[g]))
+                if (!apart(written[earlier], read[g]) || !apart(written[earlier], written[g]))
                     return false;
         }
         return true;
@@ -295,6 +295,8 @@ struct SystemsAndSolutions
             for (std::size_t earlier = 0; earlier <= g; ++earlier) {
                 if (!rightSideFirst || earlier != g)
                     safe &= apart(written[earlier], read[g]);
+                if (earlier != g)
+                    safe &= apart(written[earlier], written[g]);
                 safe &= apart(written[earlier], matrix[g]);
             }
         }
