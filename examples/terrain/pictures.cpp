@@ -180,8 +180,8 @@ Canvas drawMap(const Plane& plane, double cellWidth, double cellHeight, const Le
 Legend hillshadeLegend(const std::string& name, double azimuth, double altitude)
 {
     return {"Hillshade: " + name,
-            "light from the " + wind(azimuth) + " (" + format("%g", azimuth) + " degrees), " +
-                format("%g", altitude) + " degrees high",
+            "light from the " + wind(azimuth) + " (" + format("%.4g", azimuth) + " degrees), " +
+                format("%.4g", altitude) + " degrees high",
             0,
             1,
             grey,
