@@ -9,11 +9,11 @@ namespace {
 
 constexpr Colour paper{252, 251, 247}, ink{35, 35, 38}, faint{110, 110, 115};
 
-// The largest of 1, 2, 5, 10, 20, ... that is no larger.
+// The largest of 1, 2, 3, 5, 10, 20, ... that is no larger.
 double roundNumber(double limit)
 {
     const double power = std::pow(10, std::floor(std::log10(limit)));
-    for (const double digit : {5.0, 2.0})
+    for (const double digit : {5.0, 3.0, 2.0})
         if (digit * power <= limit)
             return digit * power;
     return power;
@@ -57,7 +57,7 @@ struct Layout
         mapHeight = pixels(plane.rows * cellHeight);
         scale = std::max(1U, mapWidth / 900);
         margin = 24 * scale;
-        width = std::max(mapWidth, 640 * scale) + 2 * margin;
+        width = std::max(mapWidth, 680 * scale) + 2 * margin;
         mapLeft = (width - mapWidth) / 2;
         mapTop = margin + 64 * scale;
         legendTop = mapTop + mapHeight + 18 * scale;
@@ -180,8 +180,8 @@ Canvas drawMap(const Plane& plane, double cellWidth, double cellHeight, const Le
 Legend hillshadeLegend(const std::string& name, double azimuth, double altitude)
 {
     return {"Hillshade: " + name,
-            "light from the " + wind(azimuth) + " (" + format("%g", azimuth) + " degrees), " +
-                format("%g", altitude) + " degrees above the horizon",
+            "light from the " + wind(azimuth) + " (" + format("%.4g", azimuth) + " degrees), " +
+                format("%.4g", altitude) + " degrees high",
             0,
             1,
             grey,

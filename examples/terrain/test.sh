@@ -146,17 +146,25 @@ paraboloid -1 -1
 curved -27.5 domes
 read -r red green blue < <(colour curvature 50 50)
 [ "$red" -gt $((blue + 50)) ] || fail "the colour of a dome: $red $green $blue"
-bright=($(colour hillshade 40 40)) dark=($(colour hillshade 60 60)) # north-west and south-east of the top
-[ "${bright[0]}" -gt $((dark[0] + 50)) ] || fail "light from the north-west: ${bright[*]} and ${dark[*]}"
-run --cell 10x20 --azimuth 135 "$work/paraboloid.pgm"
-bright=($(colour hillshade 60 60)) dark=($(colour hillshade 40 40))
-[ "${bright[0]}" -gt $((dark[0] + 50)) ] || fail "light from the south-east: ${bright[*]} and ${dark[*]}"
+# lit AZIMUTH X Y           with light from there this place is brighter than the one across the top
+lit() {
+    run --cell 10x20 --azimuth "$1" "$work/paraboloid.pgm"
+    local bright dark
+    bright=$(colour hillshade "$2" "$3") dark=$(colour hillshade $((100 - $2)) $((100 - $3)))
+    [ "${bright%% *}" -gt $((${dark%% *} + 50)) ] || fail "light from $1: $bright and $dark"
+}
+lit 0 50 40
+lit 90 60 50
+lit 180 50 60
+lit 270 40 50
 paraboloid 1 1
 curved 27.5 bowls
 read -r red green blue < <(colour curvature 50 50)
 [ "$blue" -gt $((red + 50)) ] || fail "the colour of a bowl: $red $green $blue"
 paraboloid -1 1
 curved -12.5 saddles
+surface 64 64 65535 '30000 + 4 * (c - 32) * (r - 32)' >"$work/paraboloid.pgm" # bent between the axes only
+curved 0 saddles
 
 echo "== level ground, and a bar for those who watch"
 { printf 'P5\n1000 1000\n255\n'; head -c 1000000 /dev/zero; } >"$work/level.pgm"
