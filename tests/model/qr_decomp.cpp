@@ -1,5 +1,6 @@
 // QRDecomp: Householder reflections column by column. R is left on and above the diagonal, the reflectors'
 // vectors below it.
+#include "block_sum.h"
 #include "ground.h"
 #include "qr_reflect.h"
 #include "registry.h"
@@ -149,8 +150,12 @@ struct QRDecomp
         for (std::uint32_t k = 0; k < call.count(); ++k) {
             if (nullInLists(memory, k, {&factoring.src(), &factoring.dst()}))
                 return nullPointerError;
-            if (const std::int32_t status = factoring.run(k); status != ok)
+            const std::int32_t status = factoring.run(k);
+            if (status != ok) {
+                if (isShortKernel(call.name()))
+                    mayReadAhead(memory, factoring.src(), factoring.dst(), k, call.count());
                 return status;
+            }
         }
         return ok;
     }
