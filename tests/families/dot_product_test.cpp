@@ -374,7 +374,7 @@ void checkOneByOne(const std::string& codes, unsigned size, int offset)
         "tenkDotProduct_" + codes + "_" + typeName<T>() + "_" + std::to_string(size) + "x1";
     constexpr unsigned count = 9;
     const std::uint32_t stride = size * sizeof(T);
-    std::vector<T> batch(64 + count * size, T(1)), y(count * size, T(0.5));
+    std::vector<T> batch(128 + count * size, T(1)), y(count * size, T(0.5));
     for (std::size_t j = 0; j < batch.size(); ++j)
         batch[j] = T(j % 7);
     std::vector<T> single = batch;

@@ -448,7 +448,7 @@ void checkOneByOne(unsigned size, const std::string& layout, int offset)
 {
     constexpr unsigned count = 9;
     const std::uint32_t stride1 = size * sizeof(T), stride0 = size * stride1;
-    std::vector<T> batch(64 + count * size * size);
+    std::vector<T> batch(512 + count * size * size);
     for (std::size_t j = 0; j < batch.size(); ++j)
         batch[j] = T(j % 7 + 1);
     std::vector<T> single = batch;

@@ -335,7 +335,7 @@ TEST(L2Norm, Of64fArraysWritesEachResultBeforeItReadsTheNextObject)
         for (int offset = -12; offset < 60; ++offset) {
             constexpr unsigned count = 9;
             const std::uint32_t stride = size * 8;
-            std::vector<double> batch(64 + count * size);
+            std::vector<double> batch(128 + count * size);
             for (std::size_t j = 0; j < batch.size(); ++j)
                 batch[j] = static_cast<double>(j % 7);
             std::vector<double> single = batch;
