@@ -33,8 +33,8 @@ consteval BatchSteps stepsOf(Member m)
         return {4, true};
     if (m == "tenkDotProduct_vav_64f_3x1")
         return {2, true};
-    if (m.batch() && !m.general() && m.layout == Layout::Standard)
-        return {m.type == Type::f32 ? 4U : 2U, false};
+    if (m.type == Type::f32 && m.batch() && m.size >= 4 && m.layout == Layout::Standard)
+        return {4, false};
     return {1, true};
 }
 
@@ -74,18 +74,10 @@ TENK_INLINE auto sumsOfStep(X x, Y y)
     using R = Row<Element<m>, m.size>;
     const auto products = [&](auto i) TENK_LAMBDA { return R::load(x(i)) * R::load(y(i)); };
     if constexpr (m.type == Type::f64) {
+        static_assert(m.size == 3);
         const R p[2] = {products(index<0>), products(index<1>)};
-        if constexpr (m.size == 6) {
-            const auto a = p[0].vector[0] + (p[0].vector[1] + p[0].vector[2]);
-            const auto b = p[1].vector[0] + (p[1].vector[1] + p[1].vector[2]);
-            return shuffle<0, 2>(a, b) + shuffle<1, 3>(a, b);
-        } else {
-            const auto s = evenAndOdd(p[0], p[1]);
-            if constexpr (m.size == 4)
-                return s.even + s.odd;
-            else
-                return (s.even + s.odd) + Vector<double>{p[0].rest, p[1].rest};
-        }
+        const auto s = evenAndOdd(p[0], p[1]);
+        return (s.even + s.odd) + Vector<double>{p[0].rest, p[1].rest};
     } else {
         const R p[4] = {products(index<0>), products(index<1>), products(index<2>), products(index<3>)};
         if constexpr (addsPairs(m))
