@@ -19,9 +19,9 @@ TENK_INLINE tenkStatus generalGaxpy(const Matrix& matrix, const Vec& vector, con
 {
     using T = Element<m>;
     if constexpr (isDense(m.layout)) {
-        const Span span = spanOf(out, 1, height);
-        if (areApart(span, spanOf(vector, 1, width)) && areApart(span, spanOf(addend, 1, height)) &&
-            areApart(span, spanOf(matrix, height, width))) {
+        const ByteRange range = rangeOf(out, 1, height);
+        if (areApart(range, rangeOf(vector, 1, width)) && areApart(range, rangeOf(addend, 1, height)) &&
+            areApart(range, rangeOf(matrix, height, width))) {
             vectorProductInTiles<m>(matrix, vector, height, width,
                                     [&](std::size_t i, const auto& sums) TENK_LAMBDA {
                                         using R = std::remove_cvref_t<decltype(sums)>;

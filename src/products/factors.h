@@ -141,13 +141,13 @@ TENK_INLINE Row<T, n> repeatElement(const Row<T, n>& row, Index<p>)
 // ---------------------------------------------------------------------------------------------------------------
 
 // The bytes from the first to the last of an object with rows of adjacent elements.
-struct Span
+struct ByteRange
 {
     std::int64_t first, end;
 };
 
 template <typename T>
-TENK_INLINE Span spanOf(const DenseView<T>& view, std::uint32_t rows, std::uint32_t width)
+TENK_INLINE ByteRange rangeOf(const DenseView<T>& view, std::uint32_t rows, std::uint32_t width)
 {
     const std::int64_t start = static_cast<std::int64_t>(view.start);
     const std::int64_t reach = static_cast<std::int64_t>(rows - 1) * view.rowStep;
@@ -157,7 +157,7 @@ TENK_INLINE Span spanOf(const DenseView<T>& view, std::uint32_t rows, std::uint3
 
 // Whether no store to the one can be seen through the other. An object that runs over the end of the address
 // space is not known to be apart from anything.
-TENK_INLINE bool areApart(const Span& a, const Span& b)
+TENK_INLINE bool areApart(const ByteRange& a, const ByteRange& b)
 {
     constexpr std::int64_t end = sizeof(Address) == 4 ? std::int64_t{1} << 32 : INT64_MAX;
     const bool whole = a.first >= 0 && b.first >= 0 && a.end <= end && b.end <= end;

@@ -93,12 +93,12 @@ TENK_INLINE tenkStatus generalProduct(const Left& left, const Right& right, cons
 {
     if constexpr (isDense(m.layout)) {
         constexpr bool transposed1 = m.operand[0].transposed, transposed2 = m.operand[1].transposed;
-        const Span span = spanOf(out, height, width);
+        const ByteRange range = rangeOf(out, height, width);
         const std::int64_t rowBytes = std::int64_t{width} * std::int64_t{sizeof(Element<m>)};
         const bool rowsApart = height == 1 || out.rowStep >= rowBytes || -out.rowStep >= rowBytes;
         if (rowsApart &&
-            areApart(span, transposed1 ? spanOf(left, terms, height) : spanOf(left, height, terms)) &&
-            areApart(span, transposed2 ? spanOf(right, width, terms) : spanOf(right, terms, width))) {
+            areApart(range, transposed1 ? rangeOf(left, terms, height) : rangeOf(left, height, terms)) &&
+            areApart(range, transposed2 ? rangeOf(right, width, terms) : rangeOf(right, terms, width))) {
             productInTiles<m>(left, right, out, height, width, terms);
             return tenkOk;
         }

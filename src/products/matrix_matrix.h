@@ -84,7 +84,8 @@ TENK_INLINE Block<Element<m>, m.size> loadRight(const View& view)
 {
     using T = Element<m>;
     constexpr bool transposed = m.operand[1].transposed;
-    if constexpr (isDense(m.layout)) {
+    // Turned pairs of 64f are put together as they are loaded.
+    if constexpr (isDense(m.layout) && !(transposed && m.type == Type::f64)) {
         return loadFactor<T, m.size, transposed>(view);
     } else {
         Block<T, m.size> b;
@@ -125,17 +126,11 @@ TENK_INLINE void multiply(const Left& left, const Block<Element<m>, m.size>& rig
     using T = Element<m>;
     constexpr bool transposed = m.operand[0].transposed;
     each<m.size>([&](auto i) TENK_LAMBDA {
-        if constexpr (isDense(m.layout) && !transposed) {
-            const auto row = Row<T, m.size>::load(left.row(i));
-            storeRow<m>(out, i, sumOfRows<m>([&](auto p) TENK_LAMBDA {
-                            return repeatElement(row, p) * right.row[p];
-                        }));
-        } else {
-            storeRow<m>(out, i, sumOfRows<m>([&](auto p) TENK_LAMBDA {
-                            const T x = load<T>(elementOf<transposed>(left, i, p));
-                            return Row<T, m.size>::repeat(x) * right.row[p];
-                        }));
-        }
+        // Repeating an element as it is loaded costs less than taking it out of a row.
+        const auto row = sumOfRows<m>([&](auto p) TENK_LAMBDA {
+            return Row<T, m.size>::repeat(load<T>(elementOf<transposed>(left, i, p))) * right.row[p];
+        });
+        storeRow<m>(out, i, row);
     });
 }
 

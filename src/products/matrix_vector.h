@@ -29,9 +29,9 @@ TENK_INLINE tenkStatus generalVectorProduct(const Matrix& matrix, const Vec& vec
 {
     constexpr bool transposed = m.operand[0].transposed;
     if constexpr (isDense(m.layout)) {
-        const Span span = spanOf(out, 1, height);
-        if (areApart(span, spanOf(vector, 1, terms)) &&
-            areApart(span, transposed ? spanOf(matrix, terms, height) : spanOf(matrix, height, terms))) {
+        const ByteRange range = rangeOf(out, 1, height);
+        if (areApart(range, rangeOf(vector, 1, terms)) &&
+            areApart(range, transposed ? rangeOf(matrix, terms, height) : rangeOf(matrix, height, terms))) {
             vectorProductInTiles<m>(matrix, vector, height, terms,
                                     [&](std::size_t i, const auto& sums)
                                         TENK_LAMBDA { sums.store(out.at(0, i)); });

@@ -176,17 +176,16 @@ TENK_INLINE Row<Element<m>, rows> vectorTile(const Matrix& matrix, const Vec& ve
     using R = Row<T, rows>;
     R sum = R::repeat(0);
     std::size_t p = 0;
-    if constexpr (!m.operand[0].transposed && rows == lanes<T>)
-        for (; p + rows <= terms; p += rows) {
-            struct
-            {
-                Address start;
-                Displacement rowStep;
-                TENK_INLINE Address row(std::size_t r) const { return start + times(r, rowStep); }
-            } const tile{matrix.at(i, p), matrix.rowStep};
-            const auto columns = loadFactor<T, rows, true>(tile);
-            const R factors = R::load(vector.at(0, p));
-            each<rows>([&](auto q) TENK_LAMBDA { sum = sum + columns.row[q] * repeatElement(factors, q); });
+    if constexpr (!m.operand[0].transposed && m.type == Type::f32 && rows % 4 == 0)
+        for (; p + 4 <= terms; p += 4) {
+            const auto factors = Row<T, 4>::load(vector.at(0, p));
+            each<rows / 4>([&](auto v) TENK_LAMBDA {
+                const DenseView<T> tile{matrix.at(i + v * 4, p), matrix.rowStep};
+                const auto columns = loadFactor<T, 4, true>(tile);
+                each<4>([&](auto q) TENK_LAMBDA {
+                    sum.vector[v] = sum.vector[v] + (columns.row[q] * repeatElement(factors, q)).vector[0];
+                });
+            });
         }
     for (; p < terms; ++p) {
         R column;
@@ -207,6 +206,8 @@ TENK_INLINE void vectorProductInTiles(const Matrix& matrix, const Vec& vector, s
 {
     constexpr unsigned n = lanes<Element<m>>;
     std::size_t i = 0;
+    for (; i + 8 <= height; i += 8) // enough sums at once to hide the time that an addition takes
+        finish(i, vectorTile<m, 8>(matrix, vector, i, terms));
     for (; i + n <= height; i += n)
         finish(i, vectorTile<m, n>(matrix, vector, i, terms));
     for (; i < height; ++i)

@@ -27,7 +27,7 @@ inline bool findsSecondRowsByFirst(const Name& name)
 // of their own or through a table, it may be so or not.
 inline bool loadsNextObjectFirst(const Name& name)
 {
-    return name.type == Type::f32 && name.size == 3 && hasAdjacentRows(name);
+    return name.type == Type::f32 && name.size == 3 && hasAdjacentRows(name) && name.codeIn("mam mamT");
 }
 
 inline bool mayLoadNextObjectFirst(const Name& name)

@@ -47,11 +47,6 @@ Arena::~Arena()
     munmap(bytes_.data() - Memory::pageSize, totalSize + 2 * Memory::pageSize);
 }
 
-void Arena::snapshotRoom(std::size_t index)
-{
-    std::memcpy(before_.data() + (room(index) - start()), at(room(index)), roomSize);
-}
-
 void Arena::snapshot()
 {
     std::memcpy(before_.data(), bytes_.data(), bytes_.size());

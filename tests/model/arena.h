@@ -32,9 +32,7 @@ public:
     Memory& memory() { return *memory_; }
     std::byte* at(Address address) { return bytes_.data() + (address - start()); }
 
-    // Takes note of the contents of a room, which something has just been written into, or of the whole
-    // arena.
-    void snapshotRoom(std::size_t index);
+    // Takes note of the contents of the whole arena.
     void snapshot();
     // Undoes all stores of the model.
     void restore();

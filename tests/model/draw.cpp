@@ -41,10 +41,8 @@ public:
         Draw draw{.call = call(), .arena = &arena_, .entry = drawEntry(), .protect = random_.chance(40)};
         // A call with a size or pointer of zero has nothing to fill.
         fillOperands();
-        for (std::size_t room = 0; room < Arena::roomCount; ++room) {
-            if (room < 2 * forms(name_).size() || room == scratchRoom)
-                arena_.snapshotRoom(room);
-        }
+        // Operands may run over into other rooms, backward too.
+        arena_.snapshot();
         return draw;
     }
 
