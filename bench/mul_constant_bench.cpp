@@ -11,8 +11,7 @@ void scaleCase(const std::string& function, unsigned count)
     const Case c{function, count};
     using Objects = Batch<T, layout, rows, columns>;
     auto a = std::make_shared<Objects>(count, 1), d = std::make_shared<Objects>(count, 2);
-    T value = T(1.5);
-    benchmark::DoNotOptimize(value);
+    const T value = T(1.5);
     contestant(c, "tenk",
                bind(function, a->array(), std::make_tuple(value), d->array(),
                     std::make_tuple(std::uint32_t{count})));

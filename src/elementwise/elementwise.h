@@ -158,8 +158,18 @@ TENK_INLINE tenkStatus rowObjects(F f, Destination<m> dst, std::size_t width, st
 // In vectors
 // ---------------------------------------------------------------------------------------------------------------
 
-// A single source in vectors: turned already, unless the result is.
-template <typename T, unsigned rows, unsigned columns, bool isTurned>
+// Rows of n elements without gaps between them. `atVectors`: they begin at multiples of 16.
+template <typename T, unsigned n, bool atVectors = false>
+struct GaplessView
+{
+    static constexpr bool aligned = atVectors;
+    Address start;
+
+    TENK_INLINE Address row(std::size_t i) const { return start + i * n * sizeof(T); }
+};
+
+// Rows from row `first` on of a source in registers, in the order of the formula unless `isTurned`.
+template <typename T, unsigned rows, unsigned columns, bool isTurned = false, unsigned first = 0>
 struct Held
 {
     static constexpr bool list = false;
@@ -167,15 +177,39 @@ struct Held
     Block<T, rows, columns> block;
 };
 
+// Vector v of row i of a source, and what is behind the vectors.
 template <typename R, typename V>
-TENK_INLINE R rowOf(const Seen<V, false>& from, std::size_t i)
+TENK_INLINE auto vectorOf(const Seen<V, false>& from, std::size_t i, std::size_t v)
 {
-    return R::load(from.view.row(i));
+    return loadVector<typename R::Value>(from.view.row(i) + v * 16);
 }
-template <typename R, typename T, unsigned rows, unsigned columns, std::size_t i>
-TENK_INLINE R rowOf(const Held<T, rows, columns, false>& from, Index<i>)
+template <typename R, typename T, unsigned rows, unsigned columns, unsigned first, std::size_t i,
+          std::size_t v>
+TENK_INLINE auto vectorOf(const Held<T, rows, columns, false, first>& from, Index<i>, Index<v>)
 {
-    return from.block.row[i];
+    return from.block.row[i - first].vector[v];
+}
+template <typename R, typename V>
+TENK_INLINE auto restOf(const Seen<V, false>& from, std::size_t i)
+{
+    return R::Tail::load(from.view.row(i) + R::full * 16);
+}
+template <typename R, typename T, unsigned rows, unsigned columns, unsigned first, std::size_t i>
+TENK_INLINE auto restOf(const Held<T, rows, columns, false, first>& from, Index<i>)
+{
+    return from.block.row[i - first].rest;
+}
+
+// Row i of the result. A vector is stored as soon as it is computed: whole objects would not fit the
+// registers.
+template <typename R, typename F, typename I, typename... From>
+TENK_INLINE void streamRow(F f, Address to, I i, const From&... from)
+{
+    each<R::full>([&](auto v) TENK_LAMBDA {
+        storeVector<typename R::Value>(to + v * 16, f(vectorOf<R>(from, i, v)...));
+    });
+    if constexpr (R::left != 0)
+        R::Tail::store(to + R::full * 16, f(restOf<R>(from, i)...));
 }
 
 // A source as it is stored.
@@ -190,31 +224,111 @@ TENK_INLINE B storedBlock(const Held<T, rows, columns, turned>& from)
     return from.block;
 }
 
-template <typename B, typename From>
-TENK_INLINE B turnedBlock(const From& from)
+// Rows 2s and 2s + 1 of a source, the second one if there is one: in 64f a transposed source is turned as it
+// is read.
+template <unsigned n, std::size_t s, typename V>
+TENK_INLINE const Seen<V, false>& twoRows(const Seen<V, false>& from, Index<s>)
+{
+    return from;
+}
+template <unsigned n, std::size_t s, bool turned>
+TENK_INLINE const Held<double, n, n, turned>& twoRows(const Held<double, n, n, turned>& from, Index<s>)
+{
+    return from;
+}
+template <unsigned n, std::size_t s, typename V>
+TENK_INLINE auto twoRows(const Seen<V, true>& from, Index<s>)
+{
+    const auto part = [&](std::size_t i) TENK_LAMBDA { return from.view.row(i) + s * 16; };
+    if constexpr (2 * s + 1 < n) {
+        Held<double, 2, n, false, 2 * s> two;
+        auto& row = two.block.row;
+        each<n / 2>([&](auto v) TENK_LAMBDA {
+            const auto upper = inRegister(loadVector<double>(part(2 * v)));
+            const auto lower = inRegister(loadVector<double>(part(2 * v + 1)));
+            row[0].vector[v] = shuffle<0, 2>(upper, lower);
+            row[1].vector[v] = shuffle<1, 3>(upper, lower);
+        });
+        if constexpr (n % 2 == 1) {
+            const auto last = loadVector<double>(part(n - 1));
+            row[0].rest = last[0];
+            row[1].rest = last[1];
+        }
+        return two;
+    } else {
+        Held<double, 1, n, false, 2 * s> one;
+        auto& row = one.block.row[0];
+        each<n / 2>([&](auto v) TENK_LAMBDA {
+            row.vector[v] = Vector<double>{load<double>(part(2 * v)), load<double>(part(2 * v + 1))};
+        });
+        row.rest = load<double>(part(n - 1));
+        return one;
+    }
+}
+
+// In 32f a transposed source is turned in registers.
+template <unsigned n, typename From>
+TENK_INLINE auto allRows(const From& from)
 {
     if constexpr (From::turned)
-        return transpose(storedBlock<B>(from));
+        return Held<float, n, n>{transpose(storedBlock<Block<float, n>>(from))};
     else
-        return storedBlock<B>(from);
+        return from;
+}
+
+// An object of 3 x 3 without gaps, as a run, or two of them.
+template <typename R, typename V, bool turned>
+TENK_INLINE R runOf(const Seen<V, turned>& from)
+{
+    R run;
+    if constexpr (V::aligned)
+        each<R::full>([&](auto v) TENK_LAMBDA {
+            run.vector[v] = loadAligned<typename R::Value>(from.view.row(0) + v * 16);
+        });
+    else
+        run = R::load(from.view.row(0));
+    if constexpr (turned)
+        return transposed(run);
+    else
+        return run;
+}
+template <typename R, typename T, unsigned columns>
+TENK_INLINE R runOf(const Held<T, 1, columns>& from)
+{
+    return from.block.row[0];
 }
 
 // If all sources are transposed, the result is turned instead of them.
 template <Member m, unsigned rows, unsigned columns, typename F, typename To, typename... From>
 TENK_INLINE void packedObject(F f, const To& to, const From&... from)
 {
-    using T = Element<m>;
-    using R = Row<T, columns>;
-    using B = Block<T, rows, columns>;
+    using R = Row<Element<m>, columns>;
+    using B = Block<Element<m>, rows, columns>;
+    const auto stream = [&](auto i, const auto&... source)
+                            TENK_LAMBDA { streamRow<R>(f, to.row(i), i, source...); };
     if constexpr (!(From::turned || ...)) {
-        each<rows>([&](auto i) TENK_LAMBDA { R::map(f, rowOf<R>(from, i)...).store(to.row(i)); });
+        each<rows>([&](auto i) TENK_LAMBDA { stream(i, from...); });
+    } else if constexpr (rows == 1) {
+        R::map(f, runOf<R>(from)...).store(to.row(0));
     } else if constexpr ((From::turned && ...)) {
         transpose(B::map(f, storedBlock<B>(from)...)).store(to);
+    } else if constexpr (m.type == Type::f64) {
+        each<(rows + 1) / 2>([&](auto s) TENK_LAMBDA {
+            const auto both = [&](const auto&... source) TENK_LAMBDA {
+                stream(index<2 * s>, source...);
+                if constexpr (2 * s + 1 < rows)
+                    stream(index<2 * s + 1>, source...);
+            };
+            both(twoRows<rows>(from, s)...);
+        });
     } else {
-        B::map(f, turnedBlock<B>(from)...).store(to);
+        const auto all = [&](const auto&... source)
+                             TENK_LAMBDA { each<rows>([&](auto i) TENK_LAMBDA { stream(i, source...); }); };
+        all(allRows<rows>(from)...);
     }
 }
 
+// A source that a member keeps, in registers: turned already, unless the result is.
 template <Member m, unsigned rows, unsigned columns, bool turnsResult, typename S>
 TENK_INLINE auto held(const S& src)
 {
@@ -226,62 +340,94 @@ TENK_INLINE auto held(const S& src)
     } else {
         const auto block = transpose(Block<T, m.size>::load(src.object(0, m.size)));
         if constexpr (rows == m.size) {
-            return Held<T, rows, columns, false>{block};
+            return Held<T, rows, columns>{block};
         } else {
             T run[rows * columns];
-            const DenseView<T> view{reinterpret_cast<Address>(run), m.size * sizeof(T)};
+            const GaplessView<T, m.size> view{reinterpret_cast<Address>(run)};
             block.store(view);
-            return Held<T, rows, columns, false>{Block<T, rows, columns>::load(view)};
+            return Held<T, rows, columns>{Block<T, rows, columns>::load(view)};
         }
     }
 }
 
-template <typename S>
-TENK_INLINE auto packedSource(const S& src, std::size_t k, std::size_t width)
+template <bool noGaps, unsigned columns, typename S>
+TENK_INLINE auto packedSource(const S& src, std::size_t k)
 {
-    return seen(src, k, width, width);
+    const auto object = seen(src, k, columns, columns);
+    if constexpr (noGaps) {
+        using View = GaplessView<typename S::Value, columns>;
+        return Seen<View, S::transposed>{View{object.view.start}};
+    } else {
+        return object;
+    }
 }
-template <typename T, unsigned rows, unsigned columns, bool turned>
-TENK_INLINE const auto& packedSource(const Held<T, rows, columns, turned>& src, std::size_t, std::size_t)
+template <bool noGaps, unsigned columns, typename T, unsigned rows, bool turned>
+TENK_INLINE const auto& packedSource(const Held<T, rows, columns, turned>& src, std::size_t)
 {
     return src;
 }
 
-template <Member m, unsigned rows, unsigned columns, typename F, typename... S>
+template <Member m, unsigned rows, unsigned columns, bool noGaps, typename F, typename... S>
 TENK_INLINE tenkStatus packedLoop(F f, Destination<m> dst, std::size_t count, const S&... src)
 {
     for (std::size_t k = 0; k < count; ++k) {
         if (anyNullObject(k, src..., dst))
             return tenkNullPointerError;
-        packedObject<m, rows, columns>(f, dst.object(k, columns), packedSource(src, k, columns)...);
+        packedObject<m, rows, columns>(f, packedSource<noGaps, columns>(dst, k).view,
+                                       packedSource<noGaps, columns>(src, k)...);
     }
     return tenkOk;
 }
 
 // Objects of `rows` rows, of `columns` adjacent elements each.
-template <Member m, unsigned rows, unsigned columns, typename F, typename... S>
+template <Member m, unsigned rows, unsigned columns, bool noGaps, typename F, typename... S>
 TENK_INLINE tenkStatus packedObjects(F f, Destination<m> dst, std::size_t count, const S&... src)
 {
-    return packedLoop<m, rows, columns>(f, dst, count,
-                                        held<m, rows, columns, (S::transposed && ...)>(src)...);
+    constexpr bool turnsResult = rows > 1 && (S::transposed && ...);
+    return packedLoop<m, rows, columns, noGaps>(f, dst, count, held<m, rows, columns, turnsResult>(src)...);
 }
 
-// Objects without gaps between their rows are one long row each, and arrays of them without gaps are one.
+// Objects without gaps between their rows are one long row each, unless they have to be turned; arrays of
+// them without gaps are one.
 template <Member m, typename F, typename... S>
 TENK_INLINE tenkStatus gaplessObjects(F f, Destination<m> dst, std::size_t count, const S&... src)
 {
     using T = Element<m>;
     constexpr unsigned elements = fixedRows<m> * m.size;
+    const auto follows = [](const auto& o)
+                             TENK_LAMBDA { return static_cast<Address>(o.stride0) == elements * sizeof(T); };
     if constexpr (m.layout == Layout::Standard && !(S::single || ...)) {
-        const auto follows = [](const auto& o) TENK_LAMBDA {
-            return static_cast<Address>(o.stride0) == elements * sizeof(T);
-        };
-        if (follows(dst) && (follows(src) && ...)) {
-            longVector<T>(f, count * elements, dst.p, src.p...);
-            return tenkOk;
+        if constexpr (!(S::transposed || ...)) {
+            if (follows(dst) && (follows(src) && ...)) {
+                longVector<T>(f, count * elements, dst.p, src.p...);
+                return tenkOk;
+            }
+        } else if constexpr (m.size == 3 && m.type == Type::f64) {
+            // By twos, so that every pair of elements is a vector and none has to straddle cache lines.
+            if (follows(dst) && (follows(src) && ...)) {
+                const auto byTwos = [&]<bool atVectors>(std::bool_constant<atVectors>) TENK_LAMBDA {
+                    using Run = GaplessView<T, 2 * elements, atVectors>;
+                    for (std::size_t k = 0; k + 2 <= count; k += 2)
+                        packedObject<m, 1, 2 * elements>(
+                            f, Run{dst.p + k * elements * sizeof(T)},
+                            Seen<Run, S::transposed>{{src.p + k * elements * sizeof(T)}}...);
+                };
+                if (((dst.p | ... | src.p) & 15) == 0)
+                    byTwos(std::true_type());
+                else
+                    byTwos(std::false_type());
+                if (count % 2 == 1)
+                    packedObject<m, 1, elements>(f, packedSource<true, elements>(dst, count - 1).view,
+                                                 packedSource<true, elements>(src, count - 1)...);
+                return tenkOk;
+            }
         }
     }
-    return packedObjects<m, 1, elements>(f, dst, count, src...);
+    constexpr bool turnsArray = ((S::transposed && !S::single) || ...);
+    if constexpr (turnsArray && m.size > 3)
+        return packedObjects<m, m.size, m.size, true>(f, dst, count, src...);
+    else
+        return packedObjects<m, 1, elements, true>(f, dst, count, src...);
 }
 
 // ---------------------------------------------------------------------------------------------------------------
@@ -309,12 +455,12 @@ TENK_INLINE tenkStatus elementwise(F f, Destination<m> dst, Size<m> width, H hei
     } else {
         if constexpr (m.destination().kind == 'v') {
             return gaplessObjects<m>(f, dst, count, src...);
-        } else if constexpr (m.batch() && !((S::transposed && !S::single) || ...)) {
-            // A transposed source that is left is single: it is turned into a run first.
-            if (gapless(m.size, dst) && ((S::transposed || gapless(m.size, src)) && ...))
+        } else if constexpr (m.batch()) {
+            // A transposed source that is kept is turned beforehand, gaps or not.
+            if (gapless(m.size, dst) && (((isKept<m, S> && S::transposed) || gapless(m.size, src)) && ...))
                 return gaplessObjects<m>(f, dst, count, src...);
         }
-        return packedObjects<m, m.size, m.size>(f, dst, count, src...);
+        return packedObjects<m, m.size, m.size, false>(f, dst, count, src...);
     }
 }
 

@@ -159,14 +159,15 @@ struct LastColumnView
     Displacement lastStep;
 };
 
-TENK_INLINE Row<double, 5> rowOf5(const LastColumnView& from, std::size_t i)
+template <typename R>
+TENK_INLINE auto vectorOf(const LastColumnView& from, std::size_t i, std::size_t v)
 {
-    Row<double, 5> row;
-    const auto four = Row<double, 4>::load(from.view.row(i));
-    row.vector[0] = four.vector[0];
-    row.vector[1] = four.vector[1];
-    row.rest = load<double>(from.view.start + times(i, from.lastStep) + 4 * sizeof(double));
-    return row;
+    return loadVector<double>(from.view.row(i) + v * 16);
+}
+template <typename R>
+TENK_INLINE double restOf(const LastColumnView& from, std::size_t i)
+{
+    return load<double>(from.view.start + times(i, from.lastStep) + 4 * sizeof(double));
 }
 
 template <Member m>
@@ -182,10 +183,8 @@ TENK_INLINE tenkStatus sumWithLastColumn(const Source<m>& src1, const Source<m, 
                 return tenkNullPointerError;
             const LastColumnView a{src1.object(k, n), src2.stride1};
             const auto to = dst.object(k, n);
-            const auto& b = packedSource(second, k, n);
-            each<n>([&](auto i) TENK_LAMBDA {
-                Row<double, n>::map(sum<m>(), rowOf5(a, i), rowOf<Row<double, n>>(b, i)).store(to.row(i));
-            });
+            const auto& b = packedSource<false, n>(second, k);
+            each<n>([&](auto i) TENK_LAMBDA { streamRow<Row<double, n>>(sum<m>(), to.row(i), i, a, b); });
         }
         return tenkOk;
     };

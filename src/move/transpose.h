@@ -30,23 +30,6 @@ consteval bool turnsRows(Member m)
     return isDense(m.layout) && !m.general();
 }
 
-// A 3 x 3 object without gaps between its rows, as one row of nine.
-TENK_INLINE Row<float, 9> transposed(const Row<float, 9>& r)
-{
-    // a00 a01 a02 a10 | a11 a12 a20 a21 | a22
-    const auto low = r.vector[0], high = r.vector[1];
-    const auto mixed = shuffle<1, 2, 6, 5>(low, high); // a01 a02 a20 a12
-    return {{shuffle<0, 3, 6, 4>(low, mixed), shuffle<0, 3, 5, 7>(high, mixed)}, r.rest};
-}
-TENK_INLINE Row<double, 9> transposed(const Row<double, 9>& r)
-{
-    // a00 a01 | a02 a10 | a11 a12 | a20 a21 | a22
-    const auto& v = r.vector;
-    return {{shuffle<0, 3>(v[0], v[1]), shuffle<0, 3>(v[3], v[0]), shuffle<0, 3>(v[2], v[3]),
-             shuffle<0, 3>(v[1], v[2])},
-            r.rest};
-}
-
 template <Member m>
 TENK_INLINE tenkStatus transpose(Source<m> src, Size<m> width, Size<m> height, Destination<m> dst,
                                  Count<m> count)
