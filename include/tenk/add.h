@@ -1,4 +1,47 @@
-/* tenk: add
+/* tenk: sums of matrices, of vectors, and of a vector and a constant.
+ *
+ *     dst(i, j) = src1(i, j) + src2(i, j)     mm, mam, mama, with T on either operand
+ *     dst(j) = src1(j) + src2(j)              vv, vav, vava
+ *     dst(j) = src(j) + value                 vc, vac
+ *
+ * Strides and shifts are bytes, sizes elements, `count` objects. Without size arguments the size is the one in the
+ * name. `width` and `height` are the shape of the result: a matrix with T is stored with `width` rows of `height`
+ * elements, and its stored element (j, i) is used at (i, j).
+ *
+ * The arithmetic is in the type of the elements, with one rounding per element; NaNs and infinities pass through.
+ *
+ * Statuses: those that tenkStatus lists, in its order. After tenkNullPointerError from a list or from the table of a
+ * single object, the objects or elements before it have been written.
+ *
+ * Overlap: the general members of vectors without an array in Standard layout give the result of a loop over the
+ * elements in ascending order, whatever overlaps. For all others `dst` may be the same as a source that is not
+ * transposed, with the same strides, and must not overlap one otherwise. Members of fixed size read a single operand
+ * beside an array once, before the first object; general ones read it again for each object.
+ *
+ * Members that stand apart:
+ *
+ *     tenkAdd_mam_32f_3x3, tenkAdd_mamT_32f_3x3, and _L
+ *         read object k + 1 of `src1` before they store object k, and count 0 objects as one. In _L entry 0 of `src1`
+ *         and entry `count` - 1 of `dst` are tested first, then entries k of `src1` and k - 1 of `dst`, before object
+ *         k - 1 is stored; with `count` = 0 the entry of `dst` is the one before the list.
+ *     tenkAdd_mamT_32f_3x3, and _L
+ *         step the rows of `src2` by src1Stride1; src2Stride1 is not used.
+ *     tenkAdd_mam_64f_5x5, tenkAdd_mama_64f_5x5, and _L
+ *         step the last column of `src1` by src2Stride1: a(i, 4) is 32 bytes behind the start of the object and i such
+ *         steps.
+ *     tenkAdd_mam_64f_3x3_L, tenkAdd_mamT_64f_3x3_L
+ *         use the elements of the single operand s at other places when its test and that of an object disagree. The
+ *         first is that its address and Stride1 are multiples of 16, the second that source and destination of the
+ *         object and the Stride1 of both are. In place of the nine elements of s, row by row, stand
+ *             object passes, s does not:  s00  +0 s01 s02  +0 s10 s11  +0 s12, of a transposed s
+ *                                         s00  +0 s01 s10  +0 s11 s20  +0 s21
+ *             s passes, object does not:  s00 s02 s10 s12 s20 s22   *   * s10, of a transposed s
+ *                                         s00 s01 s02 s20 s21 s22   *   * s22
+ *         and * is any value.
+ *
+ * Tables (_P) of single matrices with T: at step (i, j) the entry that is tested is i `height` + j, the entry that is
+ * used j `height` + i. An entry can be used before its test, and words behind the table of a matrix that is not square
+ * are tested too, up to index (`height` - 1) `height` + `width` - 1.
  */
 #ifndef TENK_ADD_H
 #define TENK_ADD_H

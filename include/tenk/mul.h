@@ -7,6 +7,20 @@
  * object, the elements before it, and the running sum of the element in hand if one of its terms was at fault.
  *
  *
+ * Multiplication by a constant: mc, mTc, mac, maTc, vc, vac
+ *
+ *     dst(i, j) = src(i, j) x value, with T src(j, i) x value     dst(j) = src(j) x value
+ *
+ * `width` and `height` are the shape of the result: a matrix with T is stored with `width` rows of `height` elements.
+ *
+ * Overlap: the general vc in Standard layout gives the result of a loop over the elements in ascending order, whatever
+ * overlaps. Without T `dst` may be `src`, with the same strides. With T that is so at 4x4 in Standard and _L alone, where
+ * an object is read before it is written; everywhere else elements are overwritten before they are read.
+ *
+ * Tables: members with an array test all entries of `src`, then all of `dst`. Single ones test both before each
+ * element; mTc tests entry i `height` + j of `src` there, and reads j `height` + i.
+ *
+ *
  * Matrix by vector: mv, mTv, mav, maTv, mva, mTva, mava, maTva
  *
  *     dst(i) = sum over p of left(i, p) x src2(p)      0 <= i < src1Height, 0 <= p < src1Width

@@ -9,6 +9,17 @@
 
 namespace tenk::combine {
 
+// A constant, in all lanes of a vector and as the first of them: it is spread once and not object by object.
+template <typename T>
+struct Constant
+{
+    Vector<T> lanes;
+
+    TENK_INLINE explicit Constant(T x) : lanes(broadcast(x)) {}
+    TENK_INLINE friend T operator*(T x, const Constant& c) { return x * c.lanes[0]; }
+    TENK_INLINE friend Vector<T> operator*(Vector<T> x, const Constant& c) { return x * c.lanes; }
+};
+
 // The destination starts inside the source, but not at its start: the loop writes elements before it reads
 // them.
 TENK_INLINE bool startsInside(Address dst, Address src, std::size_t bytes)

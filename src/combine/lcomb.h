@@ -25,7 +25,8 @@ TENK_INLINE tenkStatus lcomb(Source<m> src1, Element<m> value1, Source<m, 1> src
     if constexpr (formsProductsOnce(m)) {
         using R = Row<T, m.size>;
         const R products = R::load(src2.object(0, length).start) * R::repeat(value2);
-        const auto f = [value1](auto x, auto product) TENK_LAMBDA { return x * value1 + product; };
+        const auto f = [c1 = combine::Constant(value1)](auto x, auto product)
+                           TENK_LAMBDA { return x * c1 + product; };
         for (std::size_t k = 0; k < count; ++k) {
             if (anyNullObject(k, src1, dst))
                 return tenkNullPointerError;
@@ -34,7 +35,8 @@ TENK_INLINE tenkStatus lcomb(Source<m> src1, Element<m> value1, Source<m, 1> src
         }
         return tenkOk;
     } else {
-        const auto f = [value1, value2](auto x, auto y) TENK_LAMBDA { return x * value1 + y * value2; };
+        const auto f = [c1 = combine::Constant(value1), c2 = combine::Constant(value2)](auto x, auto y)
+                           TENK_LAMBDA { return x * c1 + y * c2; };
         return combine::combination<m>(f, src1, src2, dst, length, count);
     }
 }

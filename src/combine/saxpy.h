@@ -11,7 +11,7 @@ TENK_INLINE tenkStatus saxpy(Source<m> src1, Element<m> value, Source<m, 1> src2
 {
     if (const tenkStatus status = combine::validate<m>(src1, src2, dst, length); status != tenkOk)
         return status;
-    const auto f = [value](auto x, auto y) TENK_LAMBDA { return x * value + y; };
+    const auto f = [c = combine::Constant(value)](auto x, auto y) TENK_LAMBDA { return x * c + y; };
     return combine::combination<m>(f, src1, src2, dst, length, count);
 }
 

@@ -54,31 +54,48 @@ TENK_INLINE auto determinant3(A a)
     return (product(index<sum.first>) + product(index<sum.second>)) + product(index<sum.third>);
 }
 
-// The value of order n, built up from the last row. A minor is known by its columns, as a set of bits: those
-// of m columns are minors of the last m rows.
+// The expansion of order n as a list of steps. A minor is known by its columns, as a set of bits: those of m
+// columns are minors of the last m rows. A step adds to a minor the product for one of its columns.
+struct Step
+{
+    unsigned set, column;
+};
+
+template <unsigned n>
+struct Expansion
+{
+    static constexpr unsigned steps =
+        n * (1U << (n - 1)) - n; // all pairs of a set and a column in it, but sets of one
+    Step step[steps]{};
+
+    // All minors of an order, then those of the next: with this order the compiler keeps the fewest aside.
+    consteval Expansion()
+    {
+        unsigned length = 0;
+        for (int order = 2; order <= static_cast<int>(n); ++order)
+            for (unsigned set = 0; set < 1U << n; ++set)
+                for (unsigned column = 0; column < n; ++column)
+                    if (__builtin_popcount(set) == order && (set >> column & 1) != 0)
+                        step[length++] = {set, column};
+    }
+};
+
 template <typename W, unsigned n, typename A>
 TENK_INLINE W determinant(A a)
 {
+    constexpr Expansion<n> expansion;
     W minors[1U << n];
     each<n>([&](auto j) TENK_LAMBDA { minors[1U << j] = a(n - 1, j); });
-    each<n - 1>([&](auto done) TENK_LAMBDA {
-        each<(1U << n)>([&](auto set) TENK_LAMBDA {
-            if constexpr (__builtin_popcount(set) == done + 2) {
-                each<n>([&](auto j) TENK_LAMBDA {
-                    constexpr unsigned column = 1U << j;
-                    constexpr unsigned before = __builtin_popcount(set & (column - 1));
-                    if constexpr ((set & column) != 0) {
-                        const W term = a(n - 2 - done, j) * minors[set - column];
-                        if constexpr (before == 0)
-                            minors[set] = term;
-                        else if constexpr (before % 2 == 1)
-                            minors[set] = minors[set] - term;
-                        else
-                            minors[set] = minors[set] + term;
-                    }
-                });
-            }
-        });
+    each<expansion.steps>([&](auto i) TENK_LAMBDA {
+        constexpr unsigned set = expansion.step[i].set, column = expansion.step[i].column;
+        constexpr unsigned before = __builtin_popcount(set & ((1U << column) - 1));
+        const W term = a(n - __builtin_popcount(set), column) * minors[set & ~(1U << column)];
+        if constexpr (before == 0)
+            minors[set] = term;
+        else if constexpr (before % 2 == 1)
+            minors[set] = minors[set] - term;
+        else
+            minors[set] = minors[set] + term;
     });
     return minors[(1U << n) - 1];
 }

@@ -48,7 +48,8 @@ struct Elimination<float>
         std::size_t c = first;
         for (; c + 4 <= n; c += 4) {
             const Address a = row + c * 4;
-            storeVector<float>(a, loadVector<float>(a) + broadcast(negated) * loadVector<float>(pivotRow + c * 4));
+            storeVector<float>(a, loadVector<float>(a) +
+                                      broadcast(negated) * loadVector<float>(pivotRow + c * 4));
         }
         for (; c < n; ++c) {
             const Address a = row + c * 4;

@@ -13,21 +13,30 @@ namespace tenk {
 
 using Quad = Vector<float>;
 
-TENK_INLINE float reciprocalEstimate(float d)
+// Lanes of one vector in another order. As integers, for which there is an instruction that keeps its source.
+template <unsigned... lane>
+TENK_INLINE Quad reorder(Quad v)
 {
-    return _mm_cvtss_f32(_mm_rcp_ss(_mm_set_ss(d)));
+    typedef std::int32_t Bits __attribute__((vector_size(16)));
+    const auto bits = reinterpret_cast<Bits>(v);
+    return reinterpret_cast<Quad>(shuffle<lane...>(bits, bits));
+}
+template <unsigned lane>
+TENK_INLINE Quad spread(Quad v)
+{
+    return reorder<lane, lane, lane, lane>(v);
 }
 
-// The Newton step as order 3 takes it, and as the others do.
-TENK_INLINE float refined3(float d)
+// The reciprocal in every lane, with the Newton step as order 3 takes it, and as the others do.
+TENK_INLINE Quad refined3(float d)
 {
-    const float x = reciprocalEstimate(d);
-    return (x + x) - ((d * x) * x);
+    const Quad v = broadcast(d), x = _mm_rcp_ps(v);
+    return (x + x) - ((v * x) * x);
 }
-TENK_INLINE float refined(float d)
+TENK_INLINE Quad refined(float d)
 {
-    const float x = reciprocalEstimate(d);
-    return (x + x) - (d * (x * x));
+    const Quad v = broadcast(d), x = _mm_rcp_ps(v);
+    return (x + x) - (v * (x * x));
 }
 
 // ---------------------------------------------------------------------------------------------------------------
@@ -45,7 +54,7 @@ struct Block4
 template <unsigned bits>
 TENK_INLINE Quad exchangeLanes(Quad v)
 {
-    return shuffle<0 ^ bits, 1 ^ bits, 2 ^ bits, 3 ^ bits>(v, v);
+    return reorder<0 ^ bits, 1 ^ bits, 2 ^ bits, 3 ^ bits>(v);
 }
 
 // The signed cofactors of each row, each the sum of six products of three elements. In every lane j, with [b]
@@ -93,7 +102,7 @@ TENK_INLINE bool invert4(const Quad (&r)[4], Block4& inverse)
     const float determinant = cofactors.determinant(r);
     if (determinant == 0)
         return false;
-    const Quad scale = broadcast(refined(determinant));
+    const Quad scale = refined(determinant);
     Block<float, 4> scaled;
     each<4>([&](auto i)
                 TENK_LAMBDA { scaled.row[i].vector[0] = inverse.column[i] = cofactors.row[i] * scale; });
@@ -105,12 +114,6 @@ TENK_INLINE bool invert4(const Quad (&r)[4], Block4& inverse)
 // ---------------------------------------------------------------------------------------------------------------
 // Elimination and bordering
 // ---------------------------------------------------------------------------------------------------------------
-
-template <unsigned lane>
-TENK_INLINE Quad spread(Quad v)
-{
-    return shuffle<lane, lane, lane, lane>(v, v);
-}
 
 // The vectors times the lanes of `weights`, summed in order, behind `first` if there is one.
 TENK_INLINE Quad weightedSum(const Quad (&v)[4], Quad weights)
@@ -150,11 +153,11 @@ struct Bordered
 
     // `reciprocal` is that of the pivot, `factors` are the multiples of its row `pivotRow` that were taken
     // from the others.
-    TENK_INLINE Bordered(const Block4& inverse, float reciprocal, Quad factors, Quad pivotRow)
+    TENK_INLINE Bordered(const Block4& inverse, Quad reciprocal, Quad factors, Quad pivotRow)
     {
-        const Quad weights = broadcast(reciprocal) * pivotRow;
+        const Quad weights = reciprocal * pivotRow;
         const Quad down = weightedSum(inverse.column, factors);
-        corner = laneSum(reciprocal, weights * down);
+        corner = laneSum(reciprocal[0], weights * down);
         left = -down;
         above = -weightedSum(inverse.row, weights);
     }
@@ -167,14 +170,14 @@ struct BorderedTwice
     float leftFirst, aboveFirst;
     Quad left, above;
 
-    TENK_INLINE BorderedTwice(const Block4& inverse, const Bordered& inner, float reciprocal,
+    TENK_INLINE BorderedTwice(const Block4& inverse, const Bordered& inner, Quad reciprocal,
                               float factorFirst, Quad factors, float pivotRowFirst, Quad pivotRow)
     {
-        const float weightFirst = reciprocal * pivotRowFirst;
-        const Quad weights = broadcast(reciprocal) * pivotRow;
+        const float weightFirst = reciprocal[0] * pivotRowFirst;
+        const Quad weights = reciprocal * pivotRow;
         const float downFirst = laneSum(inner.corner * factorFirst, inner.above * factors);
         const Quad down = weightedSum(inner.left * broadcast(factorFirst), inverse.column, factors);
-        corner = laneSum(reciprocal + weightFirst * downFirst, weights * down);
+        corner = laneSum(reciprocal[0] + weightFirst * downFirst, weights * down);
         leftFirst = -downFirst;
         left = -down;
         aboveFirst = -laneSum(inner.corner * weightFirst, inner.left * weights);
@@ -210,32 +213,75 @@ TENK_INLINE std::size_t largest(const float (&row)[n])
 // The members
 // ---------------------------------------------------------------------------------------------------------------
 
+// Rows or columns a0, a1, a2 turned by one and by two elements. A cross product of two of them is the vector
+// of cofactors of the third.
+struct Turned
+{
+    Quad once, twice;
+
+    TENK_INLINE friend Quad cross(const Turned& a, const Turned& b)
+    {
+        return a.once * b.twice - a.twice * b.once;
+    }
+};
+
 template <>
 struct Packed<float, 3>
 {
     TENK_INLINE static bool invert(const DenseView<float>& from, const DenseView<float>& to)
     {
-        // Lanes 0 1 1 2 of the rows, and of the rows turned by one and by two elements.
-        const auto a = Block<float, 3>::load(from);
-        Quad once[3], twice[3];
-        each<3>([&](auto i) TENK_LAMBDA {
-            const Quad row = a.row[i].rest;
-            once[i] = shuffle<1, 3, 3, 0>(row, row);
-            twice[i] = shuffle<3, 0, 0, 1>(row, row);
-        });
+        return from.rowStep == 12 && to.rowStep == 12 ? invertRun(from.start, to.start)
+                                                      : invertRows(from, to);
+    }
+
+    // Row by row: cross products of rows are columns of the adjugate.
+    TENK_INLINE static bool invertRows(const DenseView<float>& from, const DenseView<float>& to)
+    {
+        const auto a = Block<float, 3>::load(from); // lanes 0 1 1 2
+        const auto turned = [&](unsigned i) TENK_LAMBDA {
+            return Turned{reorder<1, 3, 3, 0>(a.row[i].rest), reorder<3, 0, 0, 1>(a.row[i].rest)};
+        };
+        const Turned r0 = turned(0), r1 = turned(1), r2 = turned(2);
         Block<float, 3> cofactors;
-        each<3>([&](auto i) TENK_LAMBDA {
-            constexpr unsigned j = (i + 1) % 3, k = (i + 2) % 3;
-            cofactors.row[i].rest = once[j] * twice[k] - twice[j] * once[k];
-        });
+        cofactors.row[0].rest = cross(r1, r2);
+        cofactors.row[1].rest = cross(r2, r0);
+        cofactors.row[2].rest = cross(r0, r1);
         const auto product = [&](unsigned i)
                                  TENK_LAMBDA { return a.row[i].rest[0] * cofactors.row[i].rest[0]; };
         const float determinant = (product(1) + product(2)) + product(0);
         if (determinant == 0)
             return false;
-        const Quad scale = broadcast(refined3(determinant));
+        const Quad scale = refined3(determinant);
         each<3>([&](auto i) TENK_LAMBDA { cofactors.row[i].rest = cofactors.row[i].rest * scale; });
         transpose(cofactors).store(to);
+        return true;
+    }
+
+    // Without gaps between rows an object is a run of nine, from which columns are as near as rows: their
+    // cross products are rows of the adjugate. Lanes 0 1 2 2.
+    TENK_INLINE static bool invertRun(Address from, Address to)
+    {
+        // a00 a01 a02 a10 | a11 a12 a20 a21, and a12 a20 a21 a22
+        const Quad low = loadVector<float>(from), high = loadVector<float>(from + 16);
+        const Quad end = loadVector<float>(from + 20);
+        const Quad column0 = shuffle<0, 3, 6, 6>(low, high);
+        const Quad column1 = shuffle<1, 1, 4, 7>(low, high); // lanes 0 0 1 2
+        const Quad column2 = shuffle<2, 2, 4, 7>(low, end);
+        const Turned c0{reorder<1, 2, 0, 0>(column0), reorder<2, 0, 1, 1>(column0)};
+        const Turned c1{reorder<2, 3, 0, 0>(column1), reorder<3, 0, 2, 2>(column1)};
+        const Turned c2{reorder<2, 3, 0, 0>(column2), reorder<3, 0, 2, 2>(column2)};
+        const Quad row0 = cross(c1, c2), row1 = cross(c2, c0), row2 = cross(c0, c1);
+        const Quad products = column0 * row0;
+        const float determinant = (products[1] + products[2]) + products[0];
+        if (determinant == 0)
+            return false;
+        const Quad scale = refined3(determinant);
+        // The fourth lane of a row is overwritten by the next row.
+        storeVector<float>(to, row0 * scale);
+        storeVector<float>(to + 12, row1 * scale);
+        const Quad last = row2 * scale;
+        storeLow(to + 24, last);
+        store<float>(to + 32, last[2]);
         return true;
     }
 };
@@ -279,10 +325,10 @@ struct Packed<float, 5>
 
     TENK_INLINE static bool invertAsItStands(const DenseView<float>& from, const DenseView<float>& to)
     {
-        const float reciprocal = refined(load<float>(from.at(0, 0)));
+        const Quad reciprocal = refined(load<float>(from.at(0, 0)));
         const Quad pivotRow = loadVector<float>(from.at(0, 1));
         const auto first = [&](unsigned i) TENK_LAMBDA { return load<float>(from.at(i, 0)); };
-        const Quad factors = broadcast(reciprocal) * Quad{first(1), first(2), first(3), first(4)};
+        const Quad factors = reciprocal * Quad{first(1), first(2), first(3), first(4)};
         Quad rows[4];
         each<4>([&](auto i) TENK_LAMBDA { rows[i] = loadVector<float>(from.at(i + 1, 1)); });
         eliminate(rows, factors, pivotRow);
@@ -327,7 +373,7 @@ struct Packed<float, 6>
 
         const auto a = [&](unsigned i, unsigned j)
                            TENK_LAMBDA { return load<float>(from.at(i, exchanged.columnOrder[j])); };
-        const float factor = refined(a(0, 0)) * a(1, 0);
+        const float factor = refined(a(0, 0))[0] * a(1, 0);
         float left[5];
         each<5>([&](auto j) TENK_LAMBDA { left[j] = a(1, j + 1) - factor * a(0, j + 1); });
         const std::size_t second = largest(left);
@@ -346,15 +392,15 @@ struct Packed<float, 6>
         Quad rows[4];
         each<4>([&](auto i) TENK_LAMBDA { rows[i] = behind(i + 2); });
 
-        const float reciprocal1 = refined(a(0, 0));
+        const Quad reciprocal1 = refined(a(0, 0));
         const Quad pivotRow1 = behind(0);
-        const float factor1First = reciprocal1 * a(1, 0);
-        const Quad factors1 = broadcast(reciprocal1) * column0;
+        const float factor1First = reciprocal1[0] * a(1, 0);
+        const Quad factors1 = reciprocal1 * column0;
         eliminate(rows, factors1, pivotRow1);
 
-        const float reciprocal2 = refined(a(1, 1) - factor1First * a(0, 1));
+        const Quad reciprocal2 = refined(a(1, 1) - factor1First * a(0, 1));
         const Quad pivotRow2 = behind(1) - broadcast(factor1First) * pivotRow1;
-        const Quad factors2 = broadcast(reciprocal2) * (column1 - factors1 * broadcast(a(0, 1)));
+        const Quad factors2 = reciprocal2 * (column1 - factors1 * broadcast(a(0, 1)));
         eliminate(rows, factors2, pivotRow2);
 
         Block4 inverse;

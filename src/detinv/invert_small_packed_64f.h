@@ -14,9 +14,12 @@ namespace tenk {
 
 using Pair = Vector<double>;
 
+// As integers, for which there is an instruction that keeps its source.
 TENK_INLINE Pair exchangePair(Pair v)
 {
-    return shuffle<1, 0>(v, v);
+    typedef std::int32_t Bits __attribute__((vector_size(16)));
+    const auto bits = reinterpret_cast<Bits>(v);
+    return reinterpret_cast<Pair>(shuffle<2, 3, 0, 1>(bits, bits));
 }
 
 // Three elements multiply, add and subtract in a pair and one behind it.

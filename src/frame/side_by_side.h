@@ -3,10 +3,24 @@
 // same roundings, and every lane holds an element of an object.
 #pragma once
 
+#include <type_traits>
+
 #include "frame/checks.h"
 #include "frame/row.h"
 
 namespace tenk {
+
+// A number as an element, or in every lane.
+template <typename V>
+TENK_INLINE V number(float x)
+{
+    if constexpr (std::is_same_v<V, Vector<float>>)
+        return broadcast(x);
+    else if constexpr (std::is_same_v<V, Vector<double>>)
+        return broadcast(double{x});
+    else
+        return V{x};
+}
 
 // How many objects stand side by side.
 template <typename T>
@@ -214,6 +228,14 @@ TENK_INLINE bool onPagesOf(const Bytes& sure, const Bytes& other)
            other.length <= page;
 }
 
+// The same for the entries of a group in a list.
+template <typename O>
+TENK_INLINE bool entriesOnOnePage(const O& o, std::size_t k, std::size_t objects)
+{
+    const Address first = o.p + k * sizeof(Address), last = first + objects * sizeof(Address) - 1;
+    return !O::list || first / page == last / page;
+}
+
 // Matrices of fixed order to be read and then written, src and dst of a group that begins with object k. They
 // fit if nothing tells reading all of them first from finishing one after the other, src equal to dst
 // included.
@@ -227,6 +249,8 @@ struct SourcesAndDestinations
     {
         constexpr unsigned n = m.size;
         Bytes read[group<T>], written[group<T>];
+        if (!entriesOnOnePage(s, k, group<T>) || !entriesOnOnePage(d, k, group<T>))
+            return false;
         for (std::size_t g = 0; g < group<T>; ++g) {
             if (anyNullObject(k + g, s, d))
                 return false;
@@ -237,7 +261,7 @@ struct SourcesAndDestinations
             if (!onPagesOf(read[0], read[g]))
                 return false;
             for (std::size_t earlier = 0; earlier < g; ++earlier)
-                if (!apart(written[earlier], read[g]))
+                if (!apart(written[earlier], read[g]) || !apart(written[earlier], written[g]))
                     return false;
         }
         return true;
@@ -271,6 +295,8 @@ struct SystemsAndSolutions
             for (std::size_t earlier = 0; earlier <= g; ++earlier) {
                 if (!rightSideFirst || earlier != g)
                     safe &= apart(written[earlier], read[g]);
+                if (earlier != g)
+                    safe &= apart(written[earlier], written[g]);
                 safe &= apart(written[earlier], matrix[g]);
             }
         }

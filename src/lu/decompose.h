@@ -33,6 +33,11 @@ TENK_INLINE bool isPivot(T x)
 {
     return magnitude(x) >= T{pivotFloor};
 }
+template <typename T>
+TENK_INLINE bool arePivots(Vector<T> x)
+{
+    return !any(~(magnitude(x) >= broadcast<T>(pivotFloor)));
+}
 
 // The row permutation of object k: order entries for each object, one object after the other.
 struct RowIndex
@@ -97,7 +102,12 @@ TENK_INLINE tenkStatus decompose(const From& src, const To& d, const RowIndex& r
             const T multiplier = dividesByPivot(m) ? x / pivot : x * reciprocal;
             store<T>(d.at(row, p), multiplier);
             const T factor = 0 - multiplier;
-            for (std::size_t j = p + 1; j < n; ++j)
+            std::size_t j = p + 1;
+            if constexpr (m.general() && isDense(m.layout))
+                for (; rowsApart<T>(d.rowStep, n) && n - j >= lanes<T>; j += lanes<T>)
+                    storeVector<T>(d.at(row, j), loadVector<T>(d.at(row, j)) +
+                                                     loadVector<T>(d.at(pivotRow, j)) * broadcast(factor));
+            for (; j < n; ++j)
                 store<T>(d.at(row, j), load<T>(d.at(row, j)) + load<T>(d.at(pivotRow, j)) * factor);
         }
     }
@@ -105,56 +115,76 @@ TENK_INLINE tenkStatus decompose(const From& src, const To& d, const RowIndex& r
 }
 
 // ---------------------------------------------------------------------------------------------------------------
-// A group of objects side by side, for the batches of fixed size whose rows are adjacent
+// Fixed sizes whose rows are adjacent: one object, or a group of them side by side, in local memory
 // ---------------------------------------------------------------------------------------------------------------
 
-consteval bool decomposesSideBySide(Member m)
-{
-    return m.batch() && !m.general() && isDense(m.layout);
-}
-
-template <Member m>
-struct LUGroup
+// V is an element, or a vector with an element of each object. Rows are exchanged here: a[p] and index[p]
+// belong to position p.
+template <Member m, typename V>
+struct Elimination
 {
     using T = Element<m>;
     static constexpr unsigned n = m.size;
+    static constexpr bool sideBySide = !std::is_same_v<V, T>;
+    using Number = std::conditional_t<sideBySide, Mask<T>, std::size_t>;
 
-    // In the order of the positions: rows are exchanged.
-    Vector<T> a[n][n];
-    Mask<T> index[n];
+    V a[n][n];
+    Number index[n];
 
     // Brings the row of the largest magnitude to position p.
     template <std::size_t p>
     TENK_INLINE void exchange(Index<p>)
     {
-        Mask<T> isBetter[n];
-        Vector<T> best = magnitude(a[p][p]);
+        if constexpr (sideBySide) {
+            exchangeByMasks(tenk::index<p>);
+        } else {
+            std::size_t best = p;
+            T bestMagnitude = magnitude(a[p][p]);
+            each<n - 1 - p>([&](auto i) TENK_LAMBDA {
+                const T candidate = magnitude(a[p + 1 + i][p]);
+                if (candidate > bestMagnitude) {
+                    best = p + 1 + i;
+                    bestMagnitude = candidate;
+                }
+            });
+            if (best != p) {
+                each<n>([&](auto j) TENK_LAMBDA { std::swap(a[p][j], a[best][j]); });
+                std::swap(index[p], index[best]);
+            }
+        }
+    }
+
+    template <std::size_t p>
+    TENK_INLINE void exchangeByMasks(Index<p>)
+    {
+        Number isBetter[n];
+        V best = magnitude(a[p][p]);
         each<n - 1 - p>([&](auto i) TENK_LAMBDA {
             const auto candidate = magnitude(a[p + 1 + i][p]);
             isBetter[p + 1 + i] = candidate > best;
             best = larger(candidate, best);
         });
         // The last one that was better than all before it is the one.
-        Mask<T> taken{};
+        Number taken{};
         each<n - 1 - p>([&](auto i) TENK_LAMBDA {
             constexpr std::size_t q = n - 1 - i;
-            const Mask<T> isBest = isBetter[q] & ~taken;
+            const Number isBest = isBetter[q] & ~taken;
             taken |= isBetter[q];
             isBetter[q] = isBest;
         });
         each<n>([&](auto j) TENK_LAMBDA {
-            const Mask<T> old = bits<T>(a[p][j]);
-            Mask<T> x = old;
+            const Number old = bits<T>(a[p][j]);
+            Number x = old;
             each<n - 1 - p>([&](auto i) TENK_LAMBDA {
-                const Mask<T> change = (old ^ bits<T>(a[p + 1 + i][j])) & isBetter[p + 1 + i];
+                const Number change = (old ^ bits<T>(a[p + 1 + i][j])) & isBetter[p + 1 + i];
                 x ^= change;
                 a[p + 1 + i][j] = fromBits<T>(bits<T>(a[p + 1 + i][j]) ^ change);
             });
             a[p][j] = fromBits<T>(x);
         });
-        const Mask<T> old = index[p];
+        const Number old = index[p];
         each<n - 1 - p>([&](auto i) TENK_LAMBDA {
-            const Mask<T> change = (old ^ index[p + 1 + i]) & isBetter[p + 1 + i];
+            const Number change = (old ^ index[p + 1 + i]) & isBetter[p + 1 + i];
             index[p] ^= change;
             index[p + 1 + i] ^= change;
         });
@@ -165,68 +195,110 @@ struct LUGroup
     TENK_INLINE bool eliminate(Index<p>)
     {
         exchange(tenk::index<p>);
-        const Vector<T> pivot = a[p][p];
-        if (any(~(magnitude(pivot) >= broadcast<T>(pivotFloor))))
+        const V pivot = a[p][p];
+        bool found;
+        if constexpr (sideBySide)
+            found = arePivots<T>(pivot);
+        else
+            found = isPivot(pivot);
+        if (!found)
             return false;
-        Vector<T> reciprocal;
+        V reciprocal;
         if constexpr (!dividesByPivot(m))
-            reciprocal = broadcast<T>(1) / pivot;
+            reciprocal = number<V>(1) / pivot;
         each<n - 1 - p>([&](auto i) TENK_LAMBDA {
             auto& row = a[p + 1 + i];
             if constexpr (dividesByPivot(m))
                 row[p] = row[p] / pivot;
             else
                 row[p] = row[p] * reciprocal;
-            const Vector<T> factor = broadcast<T>(0) - row[p];
+            const V factor = number<V>(0) - row[p];
             each<n - 1 - p>([&](auto j)
                                 TENK_LAMBDA { row[p + 1 + j] = row[p + 1 + j] + a[p][p + 1 + j] * factor; });
         });
         return true;
     }
 
-    template <typename View>
-    TENK_INLINE bool decompose(const View (&src)[group<T>])
+    // False, with everything as it was left, at the first position without a pivot.
+    TENK_INLINE bool eliminate()
     {
-        each<n>([&](auto i) TENK_LAMBDA {
-            loadSideBySide<n>(Addresses<T>::make([&](std::size_t g) TENK_LAMBDA { return src[g].row(i); }),
-                              a[i]);
-            index[i] = Mask<T>{} + static_cast<int>(i);
-        });
+        each<n>([&](auto i) TENK_LAMBDA { index[i] = Number{} + static_cast<std::uint32_t>(i); });
         return [&]<std::size_t... p>(std::index_sequence<p...>) TENK_LAMBDA
         {
             return (eliminate(tenk::index<p>) && ...);
         }
         (std::make_index_sequence<n - 1>());
     }
-
-    // Object by object: the last test of an object sees what stands before the next one is written.
-    template <typename View>
-    TENK_INLINE tenkStatus store(const View (&dst)[group<T>], const std::uint32_t* rowIndex,
-                                 std::size_t k) const
-    {
-        T row[n][group<T>][n];
-        std::uint32_t position[n][group<T>];
-        each<n>([&](auto p) TENK_LAMBDA {
-            storeSideBySide<n>(Addresses<T>::make([&](std::size_t g) TENK_LAMBDA {
-                                   return reinterpret_cast<Address>(row[p][g]);
-                               }),
-                               a[p]);
-            each<group<T>>([&](auto g) TENK_LAMBDA {
-                position[p][g] = static_cast<std::uint32_t>(index[p][std::size_t{g}]);
-            });
-        });
-        for (std::size_t g = 0; g < group<T>; ++g) {
-            const RowIndex to(rowIndex, k + g, n);
-            each<n>([&](auto p) TENK_LAMBDA {
-                to.set(p, position[p][g]);
-                Row<T, n>::load(reinterpret_cast<Address>(row[p][g])).store(dst[g].row(position[p][g]));
-            });
-            if (testLastPivot<m>(dst[g], to, n, k + g) != tenkOk)
-                return tenkSingularError;
-        }
-        return tenkOk;
-    }
 };
+
+consteval bool decomposesLocally(Member m)
+{
+    return !m.general() && isDense(m.layout);
+}
+
+template <Member m>
+TENK_INLINE tenkStatus decomposeLocally(const DenseView<Element<m>>& src, const DenseView<Element<m>>& dst,
+                                        const RowIndex& rowIndex, std::size_t k)
+{
+    using T = Element<m>;
+    constexpr unsigned n = m.size;
+    Elimination<m, T> object;
+    each<n>([&](auto i) TENK_LAMBDA {
+        each<n>([&](auto j) TENK_LAMBDA { object.a[i][j] = load<T>(src.at(i, j)); });
+    });
+    const bool done = object.eliminate();
+    each<n>([&](auto p) TENK_LAMBDA {
+        rowIndex.set(p, static_cast<std::uint32_t>(object.index[p]));
+        const Address row = dst.row(object.index[p]);
+        each<n>([&](auto j) TENK_LAMBDA { store<T>(row + j * sizeof(T), object.a[p][j]); });
+    });
+    return done ? testLastPivot<m>(dst, rowIndex, n, k) : tenkSingularError;
+}
+
+// A group of objects; false, and nothing written, if one of them has a position without a pivot.
+template <Member m>
+TENK_INLINE bool eliminateSideBySide(Elimination<m, Vector<Element<m>>>& objects,
+                                     const SourcesAndDestinations<m>& operands)
+{
+    using T = Element<m>;
+    constexpr unsigned n = m.size;
+    each<n>([&](auto i) TENK_LAMBDA {
+        const auto row = [&](std::size_t g) TENK_LAMBDA { return operands.src[g].row(i); };
+        loadSideBySide<n>(Addresses<T>::make(row), objects.a[i]);
+    });
+    return objects.eliminate();
+}
+
+// Object by object: the last test of an object sees what stands before the next one is written.
+template <Member m>
+TENK_INLINE tenkStatus storeObjects(const Elimination<m, Vector<Element<m>>>& objects,
+                                    const SourcesAndDestinations<m>& operands, const std::uint32_t* rowIndex,
+                                    std::size_t k)
+{
+    using T = Element<m>;
+    constexpr unsigned n = m.size;
+    T row[n][group<T>][n];
+    std::uint32_t position[n][group<T>];
+    each<n>([&](auto p) TENK_LAMBDA {
+        storeSideBySide<n>(Addresses<T>::make([&](std::size_t g) TENK_LAMBDA {
+                               return reinterpret_cast<Address>(row[p][g]);
+                           }),
+                           objects.a[p]);
+        each<group<T>>([&](auto g) TENK_LAMBDA {
+            position[p][g] = static_cast<std::uint32_t>(objects.index[p][std::size_t{g}]);
+        });
+    });
+    for (std::size_t g = 0; g < group<T>; ++g) {
+        const RowIndex to(rowIndex, k + g, n);
+        each<n>([&](auto p) TENK_LAMBDA {
+            to.set(p, position[p][g]);
+            Row<T, n>::load(reinterpret_cast<Address>(row[p][g])).store(operands.dst[g].row(position[p][g]));
+        });
+        if (testLastPivot<m>(operands.dst[g], to, n, k + g) != tenkOk)
+            return tenkSingularError;
+    }
+    return tenkOk;
+}
 
 template <Member m>
 TENK_INLINE tenkStatus luDecomp(Source<m> src, std::uint32_t* rowIndex, Destination<m> dst, Size<m> order,
@@ -241,13 +313,14 @@ TENK_INLINE tenkStatus luDecomp(Source<m> src, std::uint32_t* rowIndex, Destinat
     if (anyNullEntry(src, entries) || anyNullEntry(dst, entries))
         return tenkNullPointerError;
 
+    const bool local = decomposesLocally(m) && rowsApart<T>(dst.stride1, order);
     for (std::size_t k = 0; k < count; ++k) {
-        if constexpr (decomposesSideBySide(m)) {
+        if constexpr (decomposesLocally(m) && m.batch()) {
             SourcesAndDestinations<m> operands;
-            LUGroup<m> objects;
-            while (count - k >= group<T> && rowsApart<T>(dst.stride1, order) && operands.fit(src, dst, k) &&
-                   objects.decompose(operands.src)) {
-                if (objects.store(operands.dst, rowIndex, k) != tenkOk)
+            Elimination<m, Vector<T>> objects;
+            while (local && count - k >= group<T> && operands.fit(src, dst, k) &&
+                   eliminateSideBySide<m>(objects, operands)) {
+                if (storeObjects<m>(objects, operands, rowIndex, k) != tenkOk)
                     return tenkSingularError;
                 k += group<T>;
             }
@@ -256,8 +329,14 @@ TENK_INLINE tenkStatus luDecomp(Source<m> src, std::uint32_t* rowIndex, Destinat
         }
         if (anyNullObject(k, src, dst))
             return tenkNullPointerError;
-        const tenkStatus status =
-            decompose<m>(src.object(k, order), dst.object(k, order), RowIndex(rowIndex, k, order), order, k);
+        const auto from = src.object(k, order);
+        const auto to = dst.object(k, order);
+        const RowIndex rows(rowIndex, k, order);
+        tenkStatus status;
+        if constexpr (decomposesLocally(m))
+            status = local ? decomposeLocally<m>(from, to, rows, k) : decompose<m>(from, to, rows, order, k);
+        else
+            status = decompose<m>(from, to, rows, order, k);
         if (status != tenkOk)
             return status;
     }

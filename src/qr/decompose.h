@@ -27,15 +27,6 @@ struct WideOf<double>
 template <typename V>
 using Wide = typename WideOf<V>::type;
 
-template <typename V>
-TENK_INLINE V number(float x)
-{
-    if constexpr (sizeof(V) == sizeof(Vector<float>) && !std::is_same_v<V, long double>)
-        return broadcast(x);
-    else
-        return V{x};
-}
-
 // The limit of a column's sum of squares, from the diagonal down: the same in both types. A NaN is below it.
 inline constexpr float columnFloor = 0x1p-23F;
 
@@ -126,7 +117,19 @@ TENK_INLINE tenkStatus decompose(const From& src, const To& d, Address buffer, S
             lengthSquared = lengthSquared + v * v;
         }
         const W coefficient = -2 / lengthSquared;
-        for (std::size_t j = k; j < w; ++j) {
+        std::size_t j = k;
+        if constexpr (m.general() && isDense(m.layout) && m.type == Type::f32)
+            for (; rowsApart<T>(d.rowStep, w) && w - j >= lanes<T>; j += lanes<T>) {
+                const auto columns = [&](std::size_t i) TENK_LAMBDA { return d.at(i, j); };
+                const auto component = [&](std::size_t i) TENK_LAMBDA { return broadcast(load<T>(b(i))); };
+                Vector<T> e = loadVector<T>(columns(k));
+                for (std::size_t i = k + 1; i < h; ++i)
+                    e = e + loadVector<T>(columns(i)) * component(i);
+                e = e * broadcast(coefficient);
+                for (std::size_t i = k; i < h; ++i)
+                    storeVector<T>(columns(i), loadVector<T>(columns(i)) + component(i) * e);
+            }
+        for (; j < w; ++j) {
             W e = load<T>(d.at(k, j));
             for (std::size_t i = k + 1; i < h; ++i)
                 e = e + W{load<T>(d.at(i, j))} * load<T>(b(i));

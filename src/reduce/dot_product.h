@@ -22,14 +22,20 @@ consteval bool addsPairs(Member m)
     return m == "tenkDotProduct_vav_32f_4x1" || m == "tenkDotProduct_vav_32f_4x1_L";
 }
 
-// How many objects are read, and their list entries tested, before the first of their results is written. In
-// 64f that is a step of two in Standard layout alone.
-consteval unsigned objectsPerStep(Member m)
+// How the objects of a batch are taken. Those of some members are read a step at a time, and their list
+// entries tested, before the first result of the step is written; in 64f that is so in Standard layout alone.
+// All others go object by object, as far as can be told; in lists it does not pay to find that out for each
+// step.
+consteval BatchSteps stepsOf(Member m)
 {
     if (m == "tenkDotProduct_vav_32f_3x1" || m == "tenkDotProduct_vav_32f_3x1_L" ||
         m == "tenkDotProduct_vav_32f_4x1" || m == "tenkDotProduct_vav_32f_4x1_L")
-        return 4;
-    return m == "tenkDotProduct_vav_64f_3x1" ? 2 : 1;
+        return {4, true};
+    if (m == "tenkDotProduct_vav_64f_3x1")
+        return {2, true};
+    if (m.type == Type::f32 && m.batch() && m.size >= 4 && m.layout == Layout::Standard)
+        return {4, false};
+    return {1, true};
 }
 
 // The sum of products of a fixed size in 32f.
@@ -60,29 +66,27 @@ requires(m.type == Type::f64) TENK_INLINE double sumInOrder(Address x, Address y
     return both;
 }
 
-// The same for a whole step, one object per lane; x(n) is the address of object n of the step.
-template <Member m, typename X>
-TENK_INLINE auto sumsOfStep(X x, Address y)
+// The same for a whole step, one object per lane; x(i) and y(i) are the addresses of the vectors of object i
+// of the step.
+template <Member m, typename X, typename Y>
+TENK_INLINE auto sumsOfStep(X x, Y y)
 {
+    using R = Row<Element<m>, m.size>;
+    const auto products = [&](auto i) TENK_LAMBDA { return R::load(x(i)) * R::load(y(i)); };
     if constexpr (m.type == Type::f64) {
-        const auto factors = Row<double, 3>::load(y);
-        const auto first = Row<double, 3>::load(x(0)) * factors;
-        const auto second = Row<double, 3>::load(x(1)) * factors;
-        return (shuffle<0, 2>(first.vector[0], second.vector[0]) +
-                shuffle<1, 3>(first.vector[0], second.vector[0])) +
-               Vector<double>{first.rest, second.rest};
+        static_assert(m.size == 3);
+        const R p[2] = {products(index<0>), products(index<1>)};
+        const auto s = evenAndOdd(p[0], p[1]);
+        return (s.even + s.odd) + Vector<double>{p[0].rest, p[1].rest};
     } else {
-        const auto factors = Row<float, m.size>::load(y);
-        Row<float, m.size> p[4];
-        each<4>([&](auto n) TENK_LAMBDA { p[n] = Row<float, m.size>::load(x(n)) * factors; });
-        if constexpr (m.size == 4) {
-            const auto pairs01 = sumNeighbours(p[0].vector[0], p[1].vector[0]);
-            const auto pairs23 = sumNeighbours(p[2].vector[0], p[3].vector[0]);
-            return sumNeighbours(pairs01, pairs23);
-        } else {
-            const auto t = sideBySide(p);
-            return (t.element[0] + t.element[1]) + t.element[2];
-        }
+        const R p[4] = {products(index<0>), products(index<1>), products(index<2>), products(index<3>)};
+        if constexpr (addsPairs(m))
+            return sumNeighbours(sumNeighbours(p[0].vector[0], p[1].vector[0]),
+                                 sumNeighbours(p[2].vector[0], p[3].vector[0]));
+        const FourSideBySide<m.size> four(p);
+        Vector<float> s = four.element[0];
+        each<m.size - 1>([&](auto j) TENK_LAMBDA { s = s + four.element[j + 1]; });
+        return s;
     }
 }
 
@@ -105,11 +109,16 @@ TENK_INLINE tenkStatus dotProduct(Source<m> src1, Source<m, 1> src2, Element<m>*
         return tenkNullPointerError;
 
     constexpr bool adjacent = isDense(m.layout) && !m.general();
-    return inSteps<dot::objectsPerStep(m)>(
+    constexpr BatchSteps steps = dot::stepsOf(m);
+    constexpr unsigned n = m.general() ? 1 : m.size;
+    const Apart<1, n, steps.objects, Source<m>> apart1(src1, dst, count);
+    const Apart<1, n, steps.objects, Source<m, 1>> apart2(src2, dst, count);
+    return inSteps<steps>(
         dst, count, [&](std::size_t k) TENK_LAMBDA { return anyNullObject(k, src1, src2); },
+        [&](std::size_t k) TENK_LAMBDA { return apart1(k) && apart2(k); },
         [&](auto k) TENK_LAMBDA {
-            const auto x = [&](std::size_t n) TENK_LAMBDA { return src1.object(k + n, length).start; };
-            return dot::sumsOfStep<m>(x, src2.object(k, length).start);
+            return dot::sumsOfStep<m>([&](std::size_t i) TENK_LAMBDA { return src1.object(k + i, n).start; },
+                                      [&](std::size_t i) TENK_LAMBDA { return src2.object(k + i, n).start; });
         },
         [&](std::size_t k) TENK_LAMBDA -> T {
             const auto x = src1.object(k, length);

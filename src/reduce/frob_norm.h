@@ -20,7 +20,7 @@
 
 namespace tenk::frob {
 
-consteval bool addsColumns(Member m)
+consteval bool isOfRows(Member m)
 {
     return isDense(m.layout) && !m.general();
 }
@@ -28,22 +28,27 @@ consteval bool addsColumns(Member m)
 // These take the root by the processor's estimate, which makes the norm of a zero matrix a NaN.
 consteval bool refinesEstimate(Member m)
 {
-    return addsColumns(m) && m.type == Type::f32;
+    return isOfRows(m) && m.type == Type::f32;
 }
 
-// How many objects are read, and their list entries tested, before the first of their results is written.
-consteval unsigned objectsPerStep(Member m)
+// How the objects of a batch are taken: those of 3 x 3 and 4 x 4 are read a step at a time, and their list
+// entries tested, before the first result of the step is written. All others go object by object, as far as
+// can be told; in 64f it does not pay to find that out for each step of a list.
+consteval BatchSteps stepsOf(Member m)
 {
-    if (!m.batch() || !addsColumns(m) || m.size > 4)
-        return 1;
-    return m.type == Type::f32 ? 4 : 2;
+    const bool small = m.size <= 4;
+    if (!m.batch() || !isOfRows(m))
+        return {1, true};
+    if (m.type == Type::f32)
+        return {4, small};
+    return {small || m.layout == Layout::Standard ? 2U : 1U, small};
 }
 
 // Lists that are worked through in steps test no entry of the objects behind the last full step: a null entry
 // there is used as an address.
 consteval bool testsRest(Member m)
 {
-    return objectsPerStep(m) == 1;
+    return !(stepsOf(m).objects > 1 && stepsOf(m).together);
 }
 
 // The sums of the squares of each column, one column per lane.
@@ -90,29 +95,147 @@ TENK_INLINE T sumAcross(const Row<T, n>& c)
 }
 
 // The same for a whole step, one object per lane.
-TENK_INLINE Vector<float> sumsAcross(const Row<float, 3> (&c)[4])
-{
-    const auto t = sideBySide(c);
-    return (t.element[0] + t.element[1]) + t.element[2];
-}
-TENK_INLINE Vector<float> sumsAcross(const Row<float, 4> (&c)[4])
-{
-    const auto evenAndOdd = [](Vector<float> a, Vector<float> b)
-                                TENK_LAMBDA { return lowHalves(a, b) + highHalves(a, b); };
-    return sumNeighbours(evenAndOdd(c[0].vector[0], c[1].vector[0]),
-                         evenAndOdd(c[2].vector[0], c[3].vector[0]));
-}
 TENK_INLINE Vector<double> sumsAcross(const Row<double, 3> (&c)[2])
 {
     const auto c0 = shuffle<0, 2>(c[0].vector[0], c[1].vector[0]);
     const auto c1 = shuffle<1, 3>(c[0].vector[0], c[1].vector[0]);
     return (Vector<double>{c[0].rest, c[1].rest} + c0) + c1;
 }
-TENK_INLINE Vector<double> sumsAcross(const Row<double, 4> (&c)[2])
+template <unsigned n>
+TENK_INLINE Vector<double> sumsAcross(const Row<double, n> (&c)[2])
 {
-    const auto first = c[0].vector[0] + c[0].vector[1];
-    const auto second = c[1].vector[0] + c[1].vector[1];
-    return shuffle<0, 2>(first, second) + shuffle<1, 3>(first, second);
+    auto first = c[0].vector[0] + c[0].vector[1];
+    auto second = c[1].vector[0] + c[1].vector[1];
+    if constexpr (n == 6) {
+        first = first + c[0].vector[2];
+        second = second + c[1].vector[2];
+    }
+    const auto sums = shuffle<0, 2>(first, second) + shuffle<1, 3>(first, second);
+    if constexpr (n == 5)
+        return sums + Vector<double>{c[0].rest, c[1].rest};
+    return sums;
+}
+
+// ---------------------------------------------------------------------------------------------------------------
+// Arrays of 32f: the elements of a matrix, row after row, in quads of four lanes
+// ---------------------------------------------------------------------------------------------------------------
+
+// Elements e and e + 1 as lanes 0 1 0 1.
+template <unsigned n, unsigned e, typename View>
+TENK_INLINE Vector<float> pairOf(const View& view)
+{
+    if constexpr (e % n + 1 < n) {
+        return Rest<float, 2>::load(view.at(e / n, e % n));
+    } else {
+        const float x = load<float>(view.at(e / n, e % n)), y = load<float>(view.at(e / n + 1, 0));
+        return Vector<float>{x, y, x, y};
+    }
+}
+
+// Elements e to e + 3.
+template <unsigned n, unsigned e, bool gapless, typename View>
+TENK_INLINE Vector<float> quadOf(const View& view)
+{
+    if constexpr (gapless)
+        return loadVector<float>(view.start + e * sizeof(float));
+    else if constexpr (e % n + 3 < n)
+        return loadVector<float>(view.at(e / n, e % n));
+    else if constexpr (e % n + 1 < n && (e + 2) % n + 1 < n)
+        return loadHalves(view.at(e / n, e % n), view.at((e + 2) / n, (e + 2) % n));
+    else
+        return lowHalves(pairOf<n, e>(view), pairOf<n, e + 2>(view));
+}
+
+// The sum of the squares of `quads` quads from quad `first` on, by lanes, halves before wholes.
+template <unsigned n, unsigned first, unsigned quads, bool gapless, typename View>
+TENK_INLINE Vector<float> quadSums(const View& view)
+{
+    if constexpr (quads == 1) {
+        const auto v = quadOf<n, first * 4, gapless>(view);
+        return v * v;
+    } else {
+        constexpr unsigned left = quads / 2;
+        return quadSums<n, first, left, gapless>(view) +
+               quadSums<n, first + left, quads - left, gapless>(view);
+    }
+}
+
+// The sum over one matrix: lanes 0 + 2 and 1 + 3 first, and the last element of an odd order at the end.
+template <unsigned n, bool gapless, typename View>
+TENK_INLINE float sumByQuads(const View& view)
+{
+    const auto s = quadSums<n, 0, n * n / 4, gapless>(view);
+    const float sum = (s[0] + s[2]) + (s[1] + s[3]);
+    if constexpr (n % 2 == 0)
+        return sum;
+    const float last = load<float>(view.at(n - 1, n - 1));
+    return sum + last * last;
+}
+
+// The same for four matrices, one per lane; view(i) is the view of one.
+template <unsigned n, bool gapless, typename Views>
+TENK_INLINE Vector<float> sumsByQuads(Views view)
+{
+    const auto evenAndOdd = [&](auto i) TENK_LAMBDA {
+        const auto a = quadSums<n, 0, n * n / 4, gapless>(view(i));
+        const auto b = quadSums<n, 0, n * n / 4, gapless>(view(i + 1));
+        return lowHalves(a, b) + highHalves(a, b);
+    };
+    const auto sums = sumNeighbours(evenAndOdd(index<0>), evenAndOdd(index<2>));
+    if constexpr (n % 2 == 0)
+        return sums;
+    const auto last = [&](std::size_t i) TENK_LAMBDA { return load<float>(view(i).at(n - 1, n - 1)); };
+    const Vector<float> lasts = {last(0), last(1), last(2), last(3)};
+    return sums + lasts * lasts;
+}
+
+// ---------------------------------------------------------------------------------------------------------------
+// The fixed sizes of adjacent elements
+// ---------------------------------------------------------------------------------------------------------------
+
+template <Member m>
+TENK_INLINE auto rootOf(auto s)
+{
+    if constexpr (refinesEstimate(m))
+        return refinedRoot(s);
+    else
+        return root(s);
+}
+
+// gapless: rows follow each other without a gap, and objects do, too, unless they are in a list.
+template <Member m, bool gapless>
+TENK_INLINE tenkStatus normsOfRows(Source<m> src, Element<m>* dst, std::size_t count)
+{
+    using T = Element<m>;
+    using S = Source<m>;
+    constexpr unsigned n = m.size;
+    constexpr BatchSteps steps = stepsOf(m);
+    constexpr bool quads = m.batch() && m.type == Type::f32;
+    if constexpr (gapless) {
+        src.stride1 = n * sizeof(T);
+        if constexpr (!S::list)
+            src.stride0 = n * n * sizeof(T);
+    }
+    const std::size_t tested = testsRest(m) ? count : count / steps.objects * steps.objects;
+    const auto view = [&](std::size_t k) TENK_LAMBDA { return src.object(k, n); };
+    return inSteps<steps>(
+        dst, count, [&](std::size_t k) TENK_LAMBDA { return k < tested && anyNullObject(k, src); },
+        Apart<n, n, steps.objects, S>(src, dst, count),
+        [&](auto k) TENK_LAMBDA {
+            if constexpr (quads) {
+                return rootOf<m>(
+                    sumsByQuads<n, gapless>([&](std::size_t i) TENK_LAMBDA { return view(k + i); }));
+            } else {
+                const Row<T, n> c[] = {columnSums<T, n>(view(k)), columnSums<T, n>(view(k + 1))};
+                return rootOf<m>(sumsAcross(c));
+            }
+        },
+        [&](std::size_t k) TENK_LAMBDA {
+            if constexpr (quads)
+                return rootOf<m>(sumByQuads<n, gapless>(view(k)));
+            else
+                return rootOf<m>(sumAcross(columnSums<T, n>(view(k))));
+        });
 }
 
 } // namespace tenk::frob
@@ -123,7 +246,6 @@ template <Member m>
 TENK_INLINE tenkStatus frobNorm(Source<m> src, Size<m> width, Size<m> height, Element<m>* dst, Count<m> count)
 {
     using T = Element<m>;
-    constexpr unsigned step = frob::objectsPerStep(m);
     if (anyNull(src, dst))
         return tenkNullPointerError;
     if (anyZero(width, height))
@@ -136,36 +258,23 @@ TENK_INLINE tenkStatus frobNorm(Source<m> src, Size<m> width, Size<m> height, El
                 if (src.object(0, width).isNull(i, j))
                     return tenkNullPointerError;
 
-    const std::size_t tested = frob::testsRest(m) ? std::size_t{count} : count / step * step;
-    return inSteps<step>(
-        dst, count, [&](std::size_t k) TENK_LAMBDA { return k < tested && anyNullObject(k, src); },
-        [&](auto k) TENK_LAMBDA {
-            Row<T, m.size> c[step];
-            each<step>([&](auto n)
-                           TENK_LAMBDA { c[n] = frob::columnSums<T, m.size>(src.object(k + n, width)); });
-            const auto s = frob::sumsAcross(c);
-            if constexpr (frob::refinesEstimate(m))
-                return refinedRoot(s);
-            else
-                return root(s);
-        },
-        [&](std::size_t k) TENK_LAMBDA -> T {
+    if constexpr (frob::isOfRows(m)) {
+        constexpr Displacement row = m.size * sizeof(T);
+        if (src.stride1 == row && m.batch() && (src.list || src.stride0 == m.size * row))
+            return frob::normsOfRows<m, true>(src, dst, count);
+        return frob::normsOfRows<m, false>(src, dst, count);
+    }
+    return inSteps<1>(
+        dst, count, [&](std::size_t k) TENK_LAMBDA { return anyNullObject(k, src); }, Nothing{},
+        [&](std::size_t k) TENK_LAMBDA {
             const auto x = src.object(k, width);
-            if constexpr (frob::addsColumns(m)) {
-                const T s = frob::sumAcross(frob::columnSums<T, m.size>(x));
-                if constexpr (frob::refinesEstimate(m))
-                    return refinedRoot(s);
-                else
-                    return root(s);
-            } else {
-                T s = 0;
-                for (std::size_t outer = 0; outer < (m.batch() ? width : height); ++outer)
-                    for (std::size_t inner = 0; inner < (m.batch() ? height : width); ++inner) {
-                        const T element = load<T>(m.batch() ? x.at(inner, outer) : x.at(outer, inner));
-                        s = s + element * element;
-                    }
-                return root(s);
-            }
+            T s = 0;
+            for (std::size_t outer = 0; outer < (m.batch() ? width : height); ++outer)
+                for (std::size_t inner = 0; inner < (m.batch() ? height : width); ++inner) {
+                    const T element = load<T>(m.batch() ? x.at(inner, outer) : x.at(outer, inner));
+                    s = s + element * element;
+                }
+            return root(s);
         });
 }
 

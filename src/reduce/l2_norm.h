@@ -19,10 +19,16 @@ consteval bool refinesEstimate(Member m)
     return m.type == Type::f32 && !m.general() && isDense(m.layout);
 }
 
-// How many objects are read, and their list entries tested, before the first of their results is written.
-consteval unsigned objectsPerStep(Member m)
+// How the objects of a batch are taken: where the estimate is used, four are read, and their list entries
+// tested, before the first of their results is written. All others go object by object, as far as can be
+// told; in lists it does not pay to find that out for each step.
+consteval BatchSteps stepsOf(Member m)
 {
-    return m.batch() && refinesEstimate(m) ? 4 : 1;
+    if (m.batch() && refinesEstimate(m))
+        return {4, true};
+    if (m.batch() && !m.general() && m.layout == Layout::Standard)
+        return {2, false};
+    return {1, true};
 }
 
 // The sum of the squares q(0) ... of a fixed size. Arrays and single vectors of 32f are grouped differently,
@@ -69,26 +75,18 @@ TENK_INLINE Element<m> sumOfSquares(Address x)
     return sumInOrder<m>([&](auto i) TENK_LAMBDA { return squares.get(i); });
 }
 
-// The sums of four objects in 32f, one per lane; x(n) is the address of object n.
+// The sums of a whole step, one object per lane; x(i) is the address of object i of the step.
 template <Member m, typename X>
-TENK_INLINE Vector<float> sumsOfStep(X x)
+requires(m.type == Type::f32) TENK_INLINE Vector<float> sumsOfStep(X x)
 {
-    if constexpr (m.size == 3) {
-        Row<float, 3> squares[4];
-        each<4>([&](auto n) TENK_LAMBDA {
-            const auto row = Row<float, 3>::load(x(n));
-            squares[n] = row * row;
+    if constexpr (m.size <= 4) {
+        Row<float, m.size> squares[4];
+        each<4>([&](auto i) TENK_LAMBDA {
+            const auto row = Row<float, m.size>::load(x(i));
+            squares[i] = row * row;
         });
-        const auto t = sideBySide(squares);
-        return sumInOrder<m>([&](auto i) TENK_LAMBDA { return t.element[i]; });
-    } else if constexpr (m.size == 4) {
-        Block<float, 4> squares;
-        each<4>([&](auto n) TENK_LAMBDA {
-            const auto row = Row<float, 4>::load(x(n));
-            squares.row[n] = row * row;
-        });
-        const auto t = transpose(squares);
-        return sumInOrder<m>([&](auto i) TENK_LAMBDA { return t.row[i].vector[0]; });
+        const FourSideBySide<m.size> four(squares);
+        return sumInOrder<m>([&](auto j) TENK_LAMBDA { return four.element[j]; });
     } else {
         // Elements 2 i and 2 i + 1 of two objects make one vector, so even and odd elements add up side by
         // side.
@@ -111,6 +109,28 @@ TENK_INLINE Vector<float> sumsOfStep(X x)
     }
 }
 
+template <Member m, typename X>
+requires(m.type == Type::f64) TENK_INLINE Vector<double> sumsOfStep(X x)
+{
+    using R = Row<double, m.size>;
+    const auto squares = [&](auto i) TENK_LAMBDA {
+        const R row = R::load(x(i));
+        return row * row;
+    };
+    const R q[2] = {squares(index<0>), squares(index<1>)};
+    if constexpr (m.size == 6) {
+        const auto a = (q[0].vector[0] + q[0].vector[1]) + q[0].vector[2];
+        const auto b = (q[1].vector[0] + q[1].vector[1]) + q[1].vector[2];
+        return shuffle<0, 2>(a, b) + shuffle<1, 3>(a, b);
+    } else {
+        const auto s = evenAndOdd(q[0], q[1]);
+        if constexpr (m.size == 4)
+            return s.even + s.odd;
+        else
+            return (s.even + Vector<double>{q[0].rest, q[1].rest}) + s.odd;
+    }
+}
+
 } // namespace tenk::l2
 
 namespace tenk {
@@ -128,11 +148,18 @@ TENK_INLINE tenkStatus l2Norm(Source<m> src, Element<m>* dst, Size<m> length, Co
     if (anyNullEntry(src, length))
         return tenkNullPointerError;
 
-    return inSteps<l2::objectsPerStep(m)>(
+    constexpr BatchSteps steps = l2::stepsOf(m);
+    constexpr unsigned n = m.general() ? 1 : m.size;
+    return inSteps<steps>(
         dst, count, [&](std::size_t k) TENK_LAMBDA { return anyNullObject(k, src); },
+        Apart<1, n, steps.objects, Source<m>>(src, dst, count),
         [&](auto k) TENK_LAMBDA {
-            const auto x = [&](std::size_t n) TENK_LAMBDA { return src.object(k + n, length).start; };
-            return refinedRoot(l2::sumsOfStep<m>(x));
+            const auto sums =
+                l2::sumsOfStep<m>([&](std::size_t i) TENK_LAMBDA { return src.object(k + i, n).start; });
+            if constexpr (l2::refinesEstimate(m))
+                return refinedRoot(sums);
+            else
+                return root(sums);
         },
         [&](std::size_t k) TENK_LAMBDA -> T {
             const auto x = src.object(k, length);

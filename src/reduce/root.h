@@ -9,12 +9,11 @@ namespace tenk {
 
 TENK_INLINE float root(float s)
 {
-    return _mm_cvtss_f32(_mm_sqrt_ss(_mm_set_ss(s)));
+    return __builtin_sqrtf(s);
 }
 TENK_INLINE double root(double s)
 {
-    const __m128d v = _mm_set_sd(s);
-    return _mm_cvtsd_f64(_mm_sqrt_sd(v, v));
+    return __builtin_sqrt(s);
 }
 TENK_INLINE Vector<double> root(Vector<double> s)
 {
@@ -24,7 +23,7 @@ TENK_INLINE Vector<double> root(Vector<double> s)
 // The processor's estimate of 1 / sqrt(s), of some 12 bits; the same for a lane as for a single value.
 TENK_INLINE float rootEstimate(float s)
 {
-    return _mm_cvtss_f32(_mm_rsqrt_ss(_mm_set_ss(s)));
+    return _mm_cvtss_f32(_mm_rsqrt_ss(broadcast(s)));
 }
 TENK_INLINE Vector<float> rootEstimate(Vector<float> s)
 {

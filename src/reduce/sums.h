@@ -72,18 +72,54 @@ TENK_INLINE Vector<float> sumNeighbours(Vector<float> a, Vector<float> b)
     return shuffle<0, 2, 4, 6>(a, b) + shuffle<1, 3, 5, 7>(a, b);
 }
 
-// Element i of four objects that hold three elements as 0 1 1 2, one object per lane.
-struct ThreeOfFour
+// Elements 0 to n - 1 of four objects, one object per lane.
+template <unsigned n>
+struct FourSideBySide
 {
-    Vector<float> element[3];
+    Vector<float> element[n];
+
+    TENK_INLINE explicit FourSideBySide(const Row<float, n> (&row)[4])
+    {
+        if constexpr (n == 3) { // rows are lanes 0 1 1 2
+            const auto low01 = shuffle<0, 4, 1, 5>(row[0].rest, row[1].rest);
+            const auto low23 = shuffle<0, 4, 1, 5>(row[2].rest, row[3].rest);
+            const auto high01 = shuffle<2, 6, 3, 7>(row[0].rest, row[1].rest);
+            const auto high23 = shuffle<2, 6, 3, 7>(row[2].rest, row[3].rest);
+            element[0] = lowHalves(low01, low23);
+            element[1] = highHalves(low01, low23);
+            element[2] = highHalves(high01, high23);
+        } else {
+            Block<float, 4> quads;
+            each<4>([&](auto i) TENK_LAMBDA { quads.row[i].vector[0] = row[i].vector[0]; });
+            const auto t = transpose(quads);
+            each<4>([&](auto j) TENK_LAMBDA { element[j] = t.row[j].vector[0]; });
+            if constexpr (n == 5) {
+                element[4] = Vector<float>{row[0].rest, row[1].rest, row[2].rest, row[3].rest};
+            } else if constexpr (n == 6) { // the rest of a row is lanes 4 5 4 5
+                const auto low = lowHalves(row[0].rest, row[1].rest);
+                const auto high = lowHalves(row[2].rest, row[3].rest);
+                element[4] = shuffle<0, 2, 4, 6>(low, high);
+                element[5] = shuffle<1, 3, 5, 7>(low, high);
+            }
+        }
+    }
 };
-TENK_INLINE ThreeOfFour sideBySide(const Row<float, 3> (&object)[4])
+
+// The sums of the elements of two rows in 64f, even and odd elements apart, one row per lane.
+struct EvenAndOdd
 {
-    const auto low01 = shuffle<0, 4, 1, 5>(object[0].rest, object[1].rest);
-    const auto low23 = shuffle<0, 4, 1, 5>(object[2].rest, object[3].rest);
-    const auto high01 = shuffle<2, 6, 3, 7>(object[0].rest, object[1].rest);
-    const auto high23 = shuffle<2, 6, 3, 7>(object[2].rest, object[3].rest);
-    return {{lowHalves(low01, low23), highHalves(low01, low23), highHalves(high01, high23)}};
+    Vector<double> even, odd;
+};
+template <unsigned n>
+TENK_INLINE EvenAndOdd evenAndOdd(const Row<double, n>& first, const Row<double, n>& second)
+{
+    static_assert(n == 3 || n == 4 || n == 5, "the order of three sums is the caller's");
+    auto a = first.vector[0], b = second.vector[0];
+    if constexpr (n > 3) {
+        a = a + first.vector[1];
+        b = b + second.vector[1];
+    }
+    return {shuffle<0, 2>(a, b), shuffle<1, 3>(a, b)};
 }
 
 } // namespace tenk

@@ -365,6 +365,48 @@ TEST(DotProduct, OfSomeArraysReadsAWholeStepBeforeItWrites)
     EXPECT_EQ(w, (Floats{1, 15, 33, 4, 5, 6, 7})); // 15 + 3 + 4 + 5 + 6
 }
 
+// Other arrays go object by object: the results, which lie on later objects, are those of calls with one
+// object each.
+template <typename T>
+void checkOneByOne(const std::string& codes, unsigned size, int offset)
+{
+    const std::string name =
+        "tenkDotProduct_" + codes + "_" + typeName<T>() + "_" + std::to_string(size) + "x1";
+    constexpr unsigned count = 9;
+    const std::uint32_t stride = size * sizeof(T);
+    std::vector<T> batch(128 + count * size, T(1)), y(count * size, T(0.5));
+    for (std::size_t j = 0; j < batch.size(); ++j)
+        batch[j] = T(j % 7);
+    std::vector<T> single = batch;
+    const auto run = [&](std::vector<T>& x, std::size_t k, unsigned n) {
+        T* const start = x.data() + 32;
+        Arguments second = {pointer(y.data() + (codes == "vava" ? k * size : 0))};
+        if (codes == "vava")
+            second.push_back(word(stride));
+        EXPECT_EQ(callByName(name, {{pointer(start + k * size), word(stride)},
+                                    second,
+                                    {pointer(start + offset + static_cast<std::ptrdiff_t>(k)), word(n)}}),
+                  tenkOk);
+    };
+    run(batch, 0, count);
+    for (std::size_t k = 0; k < count; ++k)
+        run(single, k, 1);
+    EXPECT_EQ(batch, single) << name << ", results at " << offset;
+}
+
+TEST(DotProduct, OfOtherArraysWritesEachResultBeforeItReadsTheNextObject)
+{
+    for (int offset = -12; offset < 60; ++offset)
+        for (unsigned size : {3U, 4U, 5U, 6U}) {
+            checkOneByOne<float>("vava", size, offset);
+            checkOneByOne<double>("vava", size, offset);
+            if (size > 4)
+                checkOneByOne<float>("vav", size, offset);
+            if (size > 3)
+                checkOneByOne<double>("vav", size, offset);
+        }
+}
+
 TEST(DotProduct, PassesInfinitiesAndNaNsThrough)
 {
     const float infinity = std::numeric_limits<float>::infinity();

@@ -441,4 +441,43 @@ TEST(FrobNorm, OfSmallMatricesReadsAWholeStepBeforeItWrites)
     EXPECT_EQ(std::vector<double>(z.begin(), z.begin() + 4), (std::vector<double>{1, 5, 7, 1}));
 }
 
+// Larger matrices go object by object: the results, which lie on later objects, are those of calls with one
+// object each.
+template <typename T>
+void checkOneByOne(unsigned size, const std::string& layout, int offset)
+{
+    constexpr unsigned count = 9;
+    const std::uint32_t stride1 = size * sizeof(T), stride0 = size * stride1;
+    std::vector<T> batch(512 + count * size * size);
+    for (std::size_t j = 0; j < batch.size(); ++j)
+        batch[j] = T(j % 7 + 1);
+    std::vector<T> single = batch;
+    const auto run = [&](std::vector<T>& x, std::size_t k, unsigned n) {
+        T* const start = x.data() + 32;
+        std::vector<const T*> entries;
+        for (std::size_t i = k; i < k + n; ++i)
+            entries.push_back(start + i * size * size);
+        const Arguments src = layout.empty()
+                                  ? Arguments{pointer(start + k * size * size), word(stride0), word(stride1)}
+                                  : Arguments{pointer(entries.data()), word(0), word(stride1)};
+        EXPECT_EQ(callByName(nameOf<T>(true, size, layout),
+                             {src, {pointer(start + offset + static_cast<std::ptrdiff_t>(k)), word(n)}}),
+                  tenkOk);
+    };
+    run(batch, 0, count);
+    for (std::size_t k = 0; k < count; ++k)
+        run(single, k, 1);
+    EXPECT_EQ(batch, single) << nameOf<T>(true, size, layout) << ", results at " << offset;
+}
+
+TEST(FrobNorm, OfLargerMatricesWritesEachResultBeforeItReadsTheNextObject)
+{
+    for (unsigned size : {5U, 6U})
+        for (const char* layout : {"", "_L"})
+            for (int offset = -12; offset < 330; ++offset) {
+                checkOneByOne<float>(size, layout, offset);
+                checkOneByOne<double>(size, layout, offset);
+            }
+}
+
 } // namespace

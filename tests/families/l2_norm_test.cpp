@@ -327,4 +327,30 @@ TEST(L2Norm, OfAListOf32fOfFixedSizeTestsFourEntriesAtATime)
     EXPECT_EQ(resultsBeforeNull<float>(0, "_L", 6, 8), 6U);
 }
 
+// Arrays of 64f go object by object: the results, which lie on later objects, are those of calls with one
+// object each.
+TEST(L2Norm, Of64fArraysWritesEachResultBeforeItReadsTheNextObject)
+{
+    for (unsigned size : {3U, 4U, 5U, 6U})
+        for (int offset = -12; offset < 60; ++offset) {
+            constexpr unsigned count = 9;
+            const std::uint32_t stride = size * 8;
+            std::vector<double> batch(128 + count * size);
+            for (std::size_t j = 0; j < batch.size(); ++j)
+                batch[j] = static_cast<double>(j % 7);
+            std::vector<double> single = batch;
+            const auto run = [&](std::vector<double>& x, std::size_t k, unsigned n) {
+                double* const start = x.data() + 32;
+                EXPECT_EQ(callByName(nameOf<double>(true, size, ""),
+                                     {{pointer(start + k * size), word(stride),
+                                       pointer(start + offset + static_cast<std::ptrdiff_t>(k)), word(n)}}),
+                          tenkOk);
+            };
+            run(batch, 0, count);
+            for (std::size_t k = 0; k < count; ++k)
+                run(single, k, 1);
+            EXPECT_EQ(batch, single) << size << ", results at " << offset;
+        }
+}
+
 } // namespace

@@ -283,7 +283,7 @@ TYPED_TEST(LUBackSubst, TheDivisionIsATrueOneByThePivot)
             call.src2.setObject(k, std::vector<T>(call.n, x));
         ASSERT_EQ(call.run(), tenkOk);
         for (std::size_t k = 0; k < call.dst.count; ++k)
-            ASSERT_TRUE(same(call.dst.object(k), std::vector<T>(call.n, quotient))) << call.name;
+            ASSERT_TRUE(same(call.dst.object(k), std::vector<T>(call.n, T{quotient}))) << call.name;
     });
 }
 

@@ -138,7 +138,7 @@ private:
         bool denormal = false;
         for (const T q : squares) {
             plain = plain + q;
-            denormal = denormal || (q > 0 && q < std::numeric_limits<T>::min());
+            denormal = denormal || isDenormal(q);
         }
         const bool special =
             std::any_of(squares.begin(), squares.end(), [](T q) { return !std::isfinite(q); });

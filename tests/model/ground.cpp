@@ -1,5 +1,7 @@
 #include "ground.h"
 
+#include "frame.h"
+
 #include <algorithm>
 
 namespace model {
@@ -85,11 +87,32 @@ void checkFactoring(const Ground& source, const Ground& target, const Ground& be
     earlier.add(besides);
 }
 
+void mayReadAhead(Memory& memory, const Operand& src, const Operand& dst, std::uint32_t k,
+                  std::uint32_t count)
+{
+    for (const Operand* operand : {&src, &dst}) {
+        if (operand->isList())
+            memory.mayRead(operand->pointer(), count * sizeof(Address));
+    }
+    for (std::uint32_t later = k + 1; later < count; ++later) {
+        if (nullInLists(memory, later, {&src, &dst}))
+            return;
+        for (std::uint32_t i = 0; i < src.shape().height; ++i) {
+            for (std::uint32_t j = 0; j < src.shape().width; ++j)
+                memory.mayRead(src.stored(memory, later, i, j), src.elementSize());
+        }
+    }
+}
+
 bool nullInAnyTable(Memory& memory, std::initializer_list<const Operand*> operands)
 {
     std::uint32_t longest = 0;
-    for (const Operand* operand : operands)
-        longest = std::max(longest, operand->isTable() ? operand->tableLength() : 0);
+    for (const Operand* operand : operands) {
+        if (!operand->isTable())
+            continue;
+        longest = std::max(longest, operand->tableLength());
+        memory.mayRead(operand->pointer(), operand->tableLength() * sizeof(Address));
+    }
     for (std::uint32_t index = 0; index < longest; ++index) {
         for (const Operand* operand : operands) {
             if (operand->isTable() && index < operand->tableLength() && operand->nullEntry(memory, index))

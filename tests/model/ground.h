@@ -44,8 +44,14 @@ void undecidedIf(bool condition, const char* reason);
 // on what came of the objects before it. `earlier` gathers that.
 void checkFactoring(const Ground& source, const Ground& target, const Ground& besides, Ground& earlier);
 
+// A kernel that takes several objects of an array at a time has read the lists to their ends, and the sources
+// up to the next null entry, when object k turns out to be the last.
+void mayReadAhead(Memory& memory, const Operand& src, const Operand& dst, std::uint32_t k,
+                  std::uint32_t count);
+
 // As nullInTables, and in functions without an array as well: index by index, at each index in the order in
-// which the operands are given.
+// which the operands are given. Which of several null entries is found first cannot be told, and the tables
+// may be read to their ends.
 bool nullInAnyTable(Memory& memory, std::initializer_list<const Operand*> operands);
 
 } // namespace model

@@ -117,8 +117,7 @@ bool exactlyZero(const Span<T>& v)
 {
     if (v.nan())
         return false;
-    const bool tiny = magnitude(v.low()) < std::numeric_limits<T>::min() && !v.isZero();
-    if ((tiny && ignoresDenormals()) || (!v.isZero() && v.mayBeZero()))
+    if ((isDenormal(v.low()) && ignoresDenormals()) || (!v.isZero() && v.mayBeZero()))
         throw Undecided{"a determinant about zero"};
     return v.isZero();
 }

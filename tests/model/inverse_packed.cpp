@@ -23,12 +23,12 @@ struct SixProducts
     T roundoff;
 };
 
+template <typename T>
 struct Enclosure
 {
-    Wide middle = 0;
-    Wide radius = 0;
-    Wide magnitudes = 0; // the sum of the magnitudes
-    Wide largestPair = 0;
+    T low = 0;
+    T high = 0;
+    bool mayOverflow = false;
 };
 
 Wide lowestBit(Wide x)
@@ -44,36 +44,42 @@ Wide lowestBit(Wide x)
 }
 
 template <typename T>
-Enclosure enclose(const SixProducts<T>* six)
+Enclosure<T> enclose(const SixProducts<T>* six)
 {
     const auto& a = six->elements;
-    Enclosure result;
     Wide largest = 0;
-    Wide finest = 0;
+    Wide finest = 0; // a power of two of which all elements are multiples
     for (const Wide x : a) {
         if (x == 0)
             continue;
         largest = std::max(largest, std::fabs(x));
         finest = finest == 0 ? lowestBit(x) : std::min(finest, lowestBit(x));
     }
+    Wide sum = 0;
+    Wide magnitudes = 0;
     for (std::size_t j = 0; j < 3; ++j) {
         const std::size_t j1 = (j + 1) % 3, j2 = (j + 2) % 3;
         const Wide positive = a[j] * a[3 + j1] * a[6 + j2];
         const Wide negative = a[j] * a[3 + j2] * a[6 + j1];
-        result.middle += positive;
-        result.middle -= negative;
-        result.magnitudes += std::fabs(positive) + std::fabs(negative);
+        sum += positive;
+        sum -= negative;
+        magnitudes += std::fabs(positive) + std::fabs(negative);
     }
-    result.largestPair = 2 * largest * largest;
+    const Wide pairs = 2 * largest * largest;
+    const Wide limit = std::numeric_limits<T>::max() / 4;
+    const bool mayOverflow = magnitudes > limit || pairs > limit;
     const Wide bits = std::ldexp(Wide(1), std::numeric_limits<T>::digits);
-    if (result.largestPair <= bits * finest * finest &&
-        result.magnitudes <= bits * finest * finest * finest &&
-        (finest == 0 || finest * finest * finest >= std::numeric_limits<T>::min()))
-        return result;
+    const Wide finestProduct = finest * finest * finest;
+    if (pairs <= bits * finest * finest && magnitudes <= bits * finestProduct &&
+        (finest == 0 || finestProduct >= std::numeric_limits<T>::min()))
+        return {static_cast<T>(sum), static_cast<T>(sum), mayOverflow};
     const Wide u = six->roundoff;
-    result.radius = (7 * u / (1 - 7 * u) + 16 * std::numeric_limits<Wide>::epsilon()) * result.magnitudes +
-                    12 * Wide(std::numeric_limits<T>::min()) * (1 + largest);
-    return result;
+    const Wide radius = (7 * u / (1 - 7 * u) + 16 * std::numeric_limits<Wide>::epsilon()) * magnitudes +
+                        12 * Wide(std::numeric_limits<T>::min()) * (1 + largest);
+    // The ends, moved outwards by the rounding to T.
+    const T infinity = std::numeric_limits<T>::infinity();
+    return {std::nextafter(static_cast<T>(sum - radius), -infinity),
+            std::nextafter(static_cast<T>(sum + radius), infinity), mayOverflow};
 }
 
 template <typename T>
@@ -85,24 +91,15 @@ Span<T> packedCofactor(const Matrix<T>& rest)
             const Span<T>& element = rest.at(i, j);
             if (!element.exact() || !std::isfinite(element.low()))
                 throw Undecided{"a cofactor of numbers that are not finite"};
-            const bool denormal =
-                magnitude(element.low()) < std::numeric_limits<T>::min() && !element.isZero();
-            if (denormal && ignoresDenormals())
+            if (isDenormal(element.low()) && ignoresDenormals())
                 throw Undecided{"a cofactor of denormals that may count or not"};
             six.elements[i * 3 + j] = element.low();
         }
     }
-    const Enclosure enclosure = inUsualState(&enclose<T>, static_cast<const SixProducts<T>*>(&six));
-    constexpr Wide limit = std::numeric_limits<T>::max() / 4;
-    if (enclosure.magnitudes > limit || enclosure.largestPair > limit)
+    const Enclosure<T> result = inUsualState(&enclose<T>, static_cast<const SixProducts<T>*>(&six));
+    if (result.mayOverflow)
         throw Undecided{"a cofactor whose products may overflow"};
-    if (enclosure.radius == 0)
-        return Span<T>(static_cast<T>(enclosure.middle));
-    // The ends, moved outwards by the rounding to T.
-    const T infinity = std::numeric_limits<T>::infinity();
-    Span<T> span(std::nextafter(static_cast<T>(enclosure.middle - enclosure.radius), -infinity));
-    span.include(std::nextafter(static_cast<T>(enclosure.middle + enclosure.radius), infinity));
-    return span;
+    return Span<T>(result.low, result.high);
 }
 
 Span<double> reciprocal(const Span<double>& d, ZeroSigns& zeros)

@@ -1,5 +1,6 @@
 // LUDecomp: elimination with partial pivoting. The rows stay where they are; `rowIndex` tells which of them
 // stands at which position.
+#include "block_sum.h"
 #include "frame.h"
 #include "ground.h"
 #include "reference.h"
@@ -156,8 +157,12 @@ struct LUDecomp
         for (std::uint32_t k = 0; k < call.count(); ++k) {
             if (nullInLists(memory, k, {&factoring.src(), &factoring.dst()}))
                 return nullPointerError;
-            if (const std::int32_t status = factoring.run(k); status != ok)
+            const std::int32_t status = factoring.run(k);
+            if (status != ok) {
+                if (isShortKernel(call.name()))
+                    mayReadAhead(memory, factoring.src(), factoring.dst(), k, call.count());
                 return status;
+            }
         }
         return ok;
     }

@@ -1,6 +1,7 @@
 #include "manners.h"
 
 #include "add_sub_matrix.h"
+#include "block_sum.h"
 
 namespace model {
 
@@ -27,6 +28,8 @@ Manners mannersOf(const Name& name)
     case Root::Det:
     case Root::LUDecomp:
     case Root::LUBackSubst:
+        // Objects behind one that is singular may have been computed along with it.
+        manners.flagsOpen = name.root == Root::LUDecomp && name.anyArray() && isShortKernel(name);
         manners.largestSize = 8;
         manners.largeSizes = false;
         manners.plainPercent = 60;
@@ -34,7 +37,7 @@ Manners mannersOf(const Name& name)
     case Root::FrobNorm:
         // The short kernels may add the squares in any order, and those of order 3 square a number beside
         // each row.
-        manners.flagsOpen = !name.general();
+        manners.flagsOpen = isShortKernel(name);
         break;
     case Root::Invert:
         manners.largestSize = 6;
@@ -45,6 +48,7 @@ Manners mannersOf(const Name& name)
         break;
     case Root::QRDecomp:
     case Root::QRBackSubst:
+        manners.flagsOpen = name.root == Root::QRDecomp && name.anyArray() && isShortKernel(name);
         manners.largestSize = 8;
         manners.largeSizes = false;
         manners.tall = true;

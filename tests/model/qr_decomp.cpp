@@ -1,9 +1,10 @@
 // QRDecomp: Householder reflections column by column. R is left on and above the diagonal, the reflectors'
 // vectors below it.
+#include "block_sum.h"
 #include "ground.h"
 #include "qr_reflect.h"
-#include "reference.h"
 #include "registry.h"
+#include "span.h"
 
 #include <algorithm>
 #include <cmath>
@@ -40,25 +41,13 @@ void dropRepeated(Outcomes<T>& list)
 template <typename T>
 void storeElement(Memory& memory, Address address, const Outcomes<T>& outcomes, std::size_t place)
 {
-    T low = outcomes[0].elements[place];
-    T high = low;
-    bool same = true;
-    bool finite = true;
-    for (const Grid<T>& outcome : outcomes) {
-        const T value = outcome.elements[place];
-        same = same && std::bit_cast<BitsOf<T>>(value) == std::bit_cast<BitsOf<T>>(low);
-        finite = finite && std::isfinite(value);
-        if (finite) {
-            low = std::min(low, value);
-            high = std::max(high, value);
-        }
-    }
-    if (same)
-        memory.store(address, low);
-    else if (finite)
-        storeBetween(memory, address, low, high);
+    Span<T> range(outcomes[0].elements[place]);
+    for (const Grid<T>& outcome : outcomes)
+        range.include(outcome.elements[place]);
+    if (range.exact())
+        memory.store(address, range.low());
     else
-        throw Undecided{"an element that is finite in some ways of adding the squares"};
+        storeBetween(memory, address, range.low(), range.high());
 }
 
 template <typename T>
@@ -161,8 +150,12 @@ struct QRDecomp
         for (std::uint32_t k = 0; k < call.count(); ++k) {
             if (nullInLists(memory, k, {&factoring.src(), &factoring.dst()}))
                 return nullPointerError;
-            if (const std::int32_t status = factoring.run(k); status != ok)
+            const std::int32_t status = factoring.run(k);
+            if (status != ok) {
+                if (isShortKernel(call.name()))
+                    mayReadAhead(memory, factoring.src(), factoring.dst(), k, call.count());
                 return status;
+            }
         }
         return ok;
     }

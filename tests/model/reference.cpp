@@ -120,6 +120,46 @@ Range<T> sumInAnyOrder(const std::vector<T>& terms)
     return inUsualState(&sumRange<T>, &summing);
 }
 
+namespace {
+
+template <typename T>
+struct Middle
+{
+    T low;
+    T high;
+    T middle;
+    double bound;
+};
+
+template <typename T>
+bool findMiddle(Middle<T>* range)
+{
+    const double low = range->low;
+    const double high = range->high;
+    range->middle = static_cast<T>(low / 2 + high / 2);
+    const double distance = std::max(high - range->middle, range->middle - low);
+    range->bound = std::nextafter(distance, std::numeric_limits<double>::infinity());
+    return true;
+}
+
+} // namespace
+
+template <typename T>
+void storeBetween(Memory& memory, Address address, T low, T high)
+{
+    const auto bits = [](T x) { return std::bit_cast<BitsOf<T>>(x); };
+    if (bits(low) == bits(high) || (bits(magnitude(low)) == 0 && bits(magnitude(high)) == 0)) {
+        memory.storeSignOpen(address, low);
+        return;
+    }
+    Middle<T> range{low, high, 0, 0};
+    inUsualState(&findMiddle<T>, &range);
+    memory.storeWithin(address, range.middle, range.bound);
+}
+
+template void storeBetween(Memory&, Address, float, float);
+template void storeBetween(Memory&, Address, double, double);
+
 template float roundoff<float>();
 template double roundoff<double>();
 template Range<float> sumInAnyOrder(const std::vector<float>& terms);

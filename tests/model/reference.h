@@ -49,6 +49,14 @@ bool roundsToNearest();
 // To nearest or towards zero: x and -x are rounded alike.
 bool roundsBySize();
 
+// A denormal by its bits, whatever the thread takes it for.
+template <typename T>
+bool isDenormal(T x)
+{
+    const auto bits = std::bit_cast<BitsOf<T>>(magnitude(x));
+    return bits != 0 && bits < std::bit_cast<BitsOf<T>>(std::numeric_limits<T>::min());
+}
+
 // x > y for magnitudes. Where the thread takes denormals for zero it depends on the unit that compares them,
 // which is left open.
 template <typename T>
@@ -78,16 +86,8 @@ extern template Range<double> sumInAnyOrder(const std::vector<double>& terms);
 
 // Stores a result that is any number of type T from `low` to `high`, the sign of a zero being open.
 template <typename T>
-void storeBetween(Memory& memory, Address address, T low, T high)
-{
-    if (low == high) {
-        memory.storeSignOpen(address, low);
-        return;
-    }
-    const double from = low;
-    const double to = high;
-    const T middle = static_cast<T>(from + (to - from) / 2);
-    memory.storeWithin(address, middle, std::max(to - middle, middle - from));
-}
+void storeBetween(Memory& memory, Address address, T low, T high);
+extern template void storeBetween(Memory&, Address, float, float);
+extern template void storeBetween(Memory&, Address, double, double);
 
 } // namespace model

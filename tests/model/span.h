@@ -7,6 +7,8 @@
 
 #include <cmath>
 #include <initializer_list>
+#include <type_traits>
+#include <utility>
 
 namespace model {
 
@@ -28,8 +30,8 @@ public:
 
     bool exact() const { return nan() || same(low_, high_); }
     bool nan() const { return std::isnan(low_); }
-    bool isZero() const { return low_ == 0 && high_ == 0; }
-    bool mayBeZero() const { return low_ <= 0 && high_ >= 0; }
+    bool isZero() const { return zero(low_) && zero(high_); }
+    bool mayBeZero() const { return !nan() && rank(low_) <= rank(T(0)) && rank(high_) >= rank(-T(0)); }
 
     // Widens the range by another outcome.
     void include(T value)
@@ -91,8 +93,22 @@ public:
     }
 
 private:
-    static bool same(T x, T y) { return x == y && std::signbit(x) == std::signbit(y); }
-    static bool less(T x, T y) { return x < y || (x == y && std::signbit(x) && !std::signbit(y)); }
+    // The place of a number among all, told from its bits: the thread may take denormals for zero, and the
+    // zeros are told apart here. The wide unit has no such mode.
+    static auto rank(T x)
+    {
+        if constexpr (sizeof(T) <= 8) {
+            using Signed = std::make_signed_t<BitsOf<T>>;
+            const auto size = static_cast<Signed>(std::bit_cast<BitsOf<T>>(magnitude(x)));
+            return std::signbit(x) ? -size - 1 : size;
+        } else {
+            return std::pair(x, !std::signbit(x));
+        }
+    }
+
+    static bool zero(T x) { return rank(x) == rank(T(0)) || rank(x) == rank(-T(0)); }
+    static bool same(T x, T y) { return !std::isnan(x) && !std::isnan(y) && rank(x) == rank(y); }
+    static bool less(T x, T y) { return rank(x) < rank(y); }
 
     static void requireFinite(std::initializer_list<T> values)
     {
