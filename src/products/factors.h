@@ -79,25 +79,27 @@ TENK_INLINE Block<T, n> loadFactor(const View& view)
         return Block<T, n>::load(view);
 }
 
-// The row of elements f(0), ..., f(n - 1).
+// The row of the elements at f(0), ..., f(n - 1).
 template <typename T, unsigned n, typename F>
 TENK_INLINE Row<T, n> gatherRow(F f)
 {
-    Row<T, n> r;
-    constexpr unsigned whole = Row<T, n>::full * lanes<T>;
-    each<Row<T, n>::full>([&](auto v) TENK_LAMBDA {
+    using R = Row<T, n>;
+    const auto at = [&](std::size_t j) TENK_LAMBDA { return load<T>(f(j)); };
+    R r;
+    each<R::full>([&](auto v) TENK_LAMBDA {
         if constexpr (lanes<T> == 4)
-            r.vector[v] = Vector<T>{f(v * 4), f(v * 4 + 1), f(v * 4 + 2), f(v * 4 + 3)};
+            r.vector[v] = Vector<T>{at(v * 4), at(v * 4 + 1), at(v * 4 + 2), at(v * 4 + 3)};
         else
-            r.vector[v] = Vector<T>{f(v * 2), f(v * 2 + 1)};
+            r.vector[v] = reinterpret_cast<Vector<T>>(loadHalves(f(v * 2), f(v * 2 + 1)));
     });
-    if constexpr (Row<T, n>::left == 1) {
-        r.rest = f(whole);
-    } else if constexpr (Row<T, n>::left == 2) {
-        const T x = f(whole), y = f(whole + 1);
+    constexpr unsigned whole = R::full * lanes<T>;
+    if constexpr (R::left == 1) {
+        r.rest = at(whole);
+    } else if constexpr (R::left == 2) {
+        const T x = at(whole), y = at(whole + 1);
         r.rest = Vector<T>{x, y, x, y};
-    } else if constexpr (Row<T, n>::left == 3) {
-        const T x = f(whole), y = f(whole + 1), z = f(whole + 2);
+    } else if constexpr (R::left == 3) {
+        const T x = at(whole), y = at(whole + 1), z = at(whole + 2);
         r.rest = Vector<T>{x, y, y, z};
     }
     return r;

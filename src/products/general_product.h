@@ -48,7 +48,7 @@ TENK_INLINE void productTile(const Left& left, const Right& right, const Out& ou
         R factor;
         if constexpr (transposed2)
             factor =
-                gatherRow<T, columns>([&](std::size_t c) TENK_LAMBDA { return load<T>(right.at(j + c, p)); });
+                gatherRow<T, columns>([&](std::size_t c) TENK_LAMBDA { return right.at(j + c, p); });
         else
             factor = R::load(right.at(p, j));
         each<rows>([&](auto r) TENK_LAMBDA {

@@ -91,7 +91,7 @@ TENK_INLINE Block<Element<m>, m.size> loadRight(const View& view)
         Block<T, m.size> b;
         each<m.size>([&](auto p) TENK_LAMBDA {
             b.row[p] = gatherRow<T, m.size>(
-                [&](std::size_t j) TENK_LAMBDA { return load<T>(elementOf<transposed>(view, p, j)); });
+                [&](std::size_t j) TENK_LAMBDA { return elementOf<transposed>(view, p, j); });
         });
         return b;
     }

@@ -87,28 +87,43 @@ TENK_INLINE Block<Element<m>, m.size> loadColumns(const View& matrix)
     return loadFactor<Element<m>, m.size, !m.operand[0].transposed>(matrix);
 }
 
-// The same sums for 32f 4x4 and 6x6, untransposed: the even and the odd terms of two rows side by side are
-// added up in one vector.
+// Two rows side by side in each of the arguments: the even terms of the four plus their odd terms.
+TENK_INLINE Vector<float> evenAndOdd(Vector<float> upper, Vector<float> lower)
+{
+    return shuffle<0, 2, 4, 6>(upper, lower) + shuffle<1, 3, 5, 7>(upper, lower);
+}
+
+// The same sums for 32f, untransposed. Parts of two rows are loaded into one vector, so that few shuffles are
+// left to do.
 template <Member m, typename View>
 TENK_INLINE Row<float, m.size> productOfHalves(const View& matrix, const Row<float, m.size>& vector)
 {
-    const auto halves = [&](auto i) TENK_LAMBDA {
-        const Address upper = matrix.row(i), lower = matrix.row(i + 1);
-        const auto sum = loadHalves(upper, lower) * lowPair(vector.vector[0]) +
-                         loadHalves(upper + 8, lower + 8) * highPair(vector.vector[0]);
-        if constexpr (m.size == 6)
-            return sum + loadHalves(upper + 16, lower + 16) * vector.rest;
-        else
-            return sum;
-    };
-    const auto evenAndOdd = [](auto upper, auto lower) TENK_LAMBDA {
-        return shuffle<0, 2, 4, 6>(upper, lower) + shuffle<1, 3, 5, 7>(upper, lower);
-    };
     Row<float, m.size> sum;
-    sum.vector[0] = evenAndOdd(halves(index<0>), halves(index<2>));
-    if constexpr (m.size == 6) {
-        const auto last = halves(index<4>);
-        sum.rest = evenAndOdd(last, last);
+    if constexpr (m.size == 3) {
+        const auto rows01 = [&](Address offset) TENK_LAMBDA {
+            return loadHalves(matrix.row(0) + offset, matrix.row(1) + offset);
+        };
+        const auto rows12 = [&](Address offset) TENK_LAMBDA {
+            return loadHalves(matrix.row(1) + offset, matrix.row(2) + offset);
+        };
+        const auto v01 = lowPair(vector.rest);
+        const auto column2 = shuffle<1, 3, 5, 7>(rows01(4), rows12(4));
+        sum.rest = evenAndOdd(rows01(0) * v01, rows12(0) * v01) + column2 * repeatLane<3>(vector.rest);
+    } else {
+        const auto halves = [&](auto i) TENK_LAMBDA {
+            const Address upper = matrix.row(i), lower = matrix.row(i + 1);
+            const auto terms = loadHalves(upper, lower) * lowPair(vector.vector[0]) +
+                               loadHalves(upper + 8, lower + 8) * highPair(vector.vector[0]);
+            if constexpr (m.size == 6)
+                return terms + loadHalves(upper + 16, lower + 16) * vector.rest;
+            else
+                return terms;
+        };
+        sum.vector[0] = evenAndOdd(halves(index<0>), halves(index<2>));
+        if constexpr (m.size == 6) {
+            const auto last = halves(index<4>);
+            sum.rest = evenAndOdd(last, last);
+        }
     }
     return sum;
 }
@@ -121,13 +136,7 @@ TENK_INLINE Row<Element<m>, m.size> productOfStored(const View& matrix, const Ro
     using B = Block<T, m.size>;
     if constexpr (m.operand[0].transposed) {
         return productOfColumns<m>(B::load(matrix), vector);
-    } else if constexpr (m.type == Type::f64) {
-        // Columns are put together as they are loaded, which costs no more than loading rows.
-        return sumOfRowsOfTerms<m>([&](auto p) TENK_LAMBDA {
-            return gatherRow<T, m.size>([&](std::size_t i) TENK_LAMBDA { return load<T>(matrix.at(i, p)); }) *
-                   repeatElement(vector, p);
-        });
-    } else if constexpr (m.size % 2 == 0) {
+    } else if constexpr (m.type == Type::f32 && m.size != 5) {
         return productOfHalves<m>(matrix, vector);
     } else {
         B rows; // multiplied as they stand, and turned as products
@@ -192,8 +201,7 @@ TENK_INLINE Row<Element<m>, rows> vectorTile(const Matrix& matrix, const Vec& ve
         if constexpr (m.operand[0].transposed)
             column = R::load(matrix.at(p, i));
         else
-            column =
-                gatherRow<T, rows>([&](std::size_t r) TENK_LAMBDA { return load<T>(matrix.at(i + r, p)); });
+            column = gatherRow<T, rows>([&](std::size_t r) TENK_LAMBDA { return matrix.at(i + r, p); });
         sum = sum + column * R::repeat(load<T>(vector.at(0, p)));
     }
     return sum;
