@@ -145,7 +145,12 @@ auto bind(const std::string& name, Tuples... tuples)
         [&](auto... arguments) {
             using Function = tenkStatus (*)(decltype(arguments)...);
             const auto f = reinterpret_cast<Function>(exported(name));
-            return [=] { benchmark::DoNotOptimize(f(arguments...)); };
+            return [=] {
+                if (f(arguments...) != tenkOk) {
+                    std::fprintf(stderr, "%s did not answer tenkOk\n", name.c_str());
+                    std::exit(1);
+                }
+            };
         },
         std::tuple_cat(tuples...));
 }
