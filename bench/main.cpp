@@ -2,6 +2,7 @@
 // smallest of all repetitions, and how many times as long as tenk each peer takes.
 #include <algorithm>
 #include <benchmark/benchmark.h>
+#include <cctype>
 #include <cmath>
 #include <cstdio>
 #include <map>
@@ -68,9 +69,16 @@ public:
             std::printf("\n");
         }
         std::printf("\n");
-        for (const std::string& who : contestants)
-            if (who != "tenk")
-                summarise(who);
+        std::printf("| Standard and List, 64 objects and more | peer | mean of the ratios | smallest | of |\n"
+                    "|:--|:--|--:|--:|:--|\n");
+        std::vector<std::string> groups;
+        for (const std::string& name : caseNames)
+            if (lines_.contains(name) && isHot(name))
+                bench::remember(groups, groupOf(name));
+        for (const std::string& group : groups)
+            for (const std::string& who : contestants)
+                if (who != "tenk")
+                    summarise(group, who);
     }
 
 private:
@@ -81,16 +89,30 @@ private:
         return found == all.end() ? 0 : found->second;
     }
 
-    // Over the batches of 64 objects and more in Standard and List layout, which is what the library is for.
-    void summarise(const std::string& who) const
+    // What the library is for.
+    static bool isHot(const std::string& name)
+    {
+        return name.find("_P/") == name.npos && name.find("_P order") == name.npos &&
+               std::stoul(name.substr(name.rfind('/') + 1)) >= 64;
+    }
+
+    // tenkAdd_mama_32f for its fixed sizes, tenkAdd_mama_32f, general for the others.
+    static std::string groupOf(const std::string& name)
+    {
+        const std::size_t type = name.find("_32f") != name.npos ? name.find("_32f") : name.find("_64f");
+        const bool fixed = name.size() > type + 5 && std::isdigit(name[type + 5]) && name[type + 4] == '_';
+        return name.substr(0, type + 4) + (fixed ? "" : ", general");
+    }
+
+    // The geometric mean, and the smallest.
+    void summarise(const std::string& group, const std::string& who) const
     {
         double logs = 0, worst = INFINITY;
         std::string worstName;
         int n = 0;
         for (const std::string& name : caseNames) {
-            const bool hot =
-                name.find("_P/") == name.npos && std::stoul(name.substr(name.rfind('/') + 1)) >= 64;
-            if (!lines_.contains(name) || !hot || nanoseconds(name, who) == 0)
+            if (!lines_.contains(name) || !isHot(name) || groupOf(name) != group ||
+                nanoseconds(name, who) == 0)
                 continue;
             const double ratio = nanoseconds(name, who) / nanoseconds(name, "tenk");
             logs += std::log(ratio);
@@ -101,10 +123,8 @@ private:
             }
         }
         if (n > 0)
-            std::printf("%s, Standard and List, batches of 64 and more: geometric mean of the ratios %.2f, "
-                        "smallest %.2f "
-                        "(%s)\n",
-                        who.c_str(), std::exp(logs / n), worst, worstName.c_str());
+            std::printf("| %s | %s | %.2f | %.2f | %s |\n", group.c_str(), who.c_str(), std::exp(logs / n),
+                        worst, worstName.c_str());
     }
 
     std::map<std::string, Line> lines_;
