@@ -261,13 +261,14 @@ TENK_INLINE Row<Element<m>, rows> vectorTile(const Matrix& matrix, const Vec& ve
     using R = Row<T, rows>;
     R sum = R::repeat(0);
     std::size_t p = 0;
-    if constexpr (!m.operand[0].transposed && m.type == Type::f32 && rows % 4 == 0)
-        for (; p + 4 <= terms; p += 4) {
-            const auto factors = Row<T, 4>::load(vector.at(0, p));
-            each<rows / 4>([&](auto v) TENK_LAMBDA {
-                const DenseView<T> tile{matrix.at(i + v * 4, p), matrix.rowStep};
-                const auto columns = loadFactor<T, 4, true>(tile);
-                each<4>([&](auto q) TENK_LAMBDA {
+    constexpr unsigned side = lanes<T>; // of a square that is turned in registers
+    if constexpr (!m.operand[0].transposed && rows % side == 0)
+        for (; p + side <= terms; p += side) {
+            const auto factors = Row<T, side>::load(vector.at(0, p));
+            each<rows / side>([&](auto v) TENK_LAMBDA {
+                const DenseView<T> square{matrix.at(i + v * side, p), matrix.rowStep};
+                const auto columns = loadFactor<T, side, true>(square);
+                each<side>([&](auto q) TENK_LAMBDA {
                     sum.vector[v] = sum.vector[v] + columns.row[q].vector[0] * repeated(factors, q);
                 });
             });
