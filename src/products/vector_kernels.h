@@ -5,7 +5,7 @@
 //
 //   general sizes, and layouts with steps or tables    s, from +0 on
 //   3x3 with adjacent elements                         s, from t0 on
-//   4x4 to 6x6 with adjacent elements                  the trees of sumOfTerms below
+//   4x4 to 6x6 with adjacent elements                  the trees of sumOfTerms and productOfStored
 #pragma once
 
 #include "products/factors.h"
