@@ -66,13 +66,13 @@ TENK_INLINE tenkStatus gaxpy(Source<m, 0> src1, Source<m, 1> src2, Source<m, 2> 
 
     if constexpr (!m.general() && isDense(m.layout)) {
         using R = Row<Element<m>, m.size>;
-        const auto columns = loadColumns<m>(src1.object(0, width));
+        const auto matrix = TurnedMatrix<m>::load(src1.object(0, width));
         for (std::size_t k = 0; k < count; ++k) {
             if (anyNullObject(k, src2, src3, dst))
                 return tenkNullPointerError;
-            const R vector = R::load(src2.object(k, width).row(0));
+            const R vector = inRegisters(R::load(src2.object(k, width).row(0)));
             const R addend = R::load(src3.object(k, height).row(0));
-            (productOfColumns<m>(columns, vector) + addend).store(dst.object(k, height).row(0));
+            (matrix.times(vector) + addend).store(dst.object(k, height).row(0));
         }
     } else {
         for (std::size_t k = 0; k < count; ++k) {

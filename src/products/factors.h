@@ -59,6 +59,17 @@ TENK_INLINE bool arePacked(const O&... operands)
     return ((operands.stride1 == n * sizeof(typename O::Value)) && ...);
 }
 
+// A row that is complete here. The compiler would like to put off sums until they are stored, and has no
+// registers left for their terms then; and it takes elements out of a loaded row by way of a copy in memory.
+template <typename T, unsigned n>
+TENK_INLINE Row<T, n> inRegisters(Row<T, n> r)
+{
+    each<Row<T, n>::full>([&](auto v) TENK_LAMBDA { r.vector[v] = inRegister(r.vector[v]); });
+    if constexpr (Row<T, n>::left != 0)
+        r.rest = inRegister(r.rest);
+    return r;
+}
+
 // Object k of an operand that may be known to be packed.
 template <bool packed, unsigned n, typename O>
 TENK_INLINE auto squareObject(const O& operand, std::size_t k)
@@ -117,18 +128,25 @@ TENK_INLINE Vector<double> repeatLane(Vector<double> v)
     return shuffle<lane, lane>(v, v);
 }
 
-// Element p of a row in all places of a row.
+// Element p of a row in all lanes.
 template <typename T, unsigned n, std::size_t p>
-TENK_INLINE Row<T, n> repeatElement(const Row<T, n>& row, Index<p>)
+TENK_INLINE Vector<T> repeated(const Row<T, n>& row, Index<p>)
 {
     using R = Row<T, n>;
-    Vector<T> v;
     if constexpr (p / lanes<T> < R::full)
-        v = repeatLane<p % lanes<T>>(row.vector[p / lanes<T>]);
+        return repeatLane<p % lanes<T>>(row.vector[p / lanes<T>]);
     else if constexpr (R::left == 1)
-        return R::repeat(row.rest);
+        return broadcast(row.rest);
     else
-        v = repeatLane<R::Tail::laneOf[p % lanes<T>]>(row.rest);
+        return repeatLane<R::Tail::laneOf[p % lanes<T>]>(row.rest);
+}
+
+// And in all places of a row.
+template <typename T, unsigned n, std::size_t p>
+TENK_INLINE Row<T, n> repeatElement(const Row<T, n>& row, Index<p> index)
+{
+    using R = Row<T, n>;
+    const auto v = repeated(row, index);
     R r;
     each<R::full>([&](auto i) TENK_LAMBDA { r.vector[i] = v; });
     if constexpr (R::left == 1)

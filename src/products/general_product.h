@@ -47,8 +47,7 @@ TENK_INLINE void productTile(const Left& left, const Right& right, const Out& ou
     for (std::size_t p = 0; p < terms; ++p) {
         R factor;
         if constexpr (transposed2)
-            factor =
-                gatherRow<T, columns>([&](std::size_t c) TENK_LAMBDA { return right.at(j + c, p); });
+            factor = gatherRow<T, columns>([&](std::size_t c) TENK_LAMBDA { return right.at(j + c, p); });
         else
             factor = R::load(right.at(p, j));
         each<rows>([&](auto r) TENK_LAMBDA {

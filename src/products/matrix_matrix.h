@@ -51,6 +51,8 @@ consteval bool staysAtFirstLeft(Member m)
 // loops.
 consteval bool gathersRows(Member m)
 {
+    if (m.type != Type::f32 || m.general() || isDense(m.layout))
+        return false; // saves the compiler the comparisons
     return m == "tenkMul_mam_32f_3x3_S2" || m == "tenkMul_maTm_32f_3x3_S2" ||
            m == "tenkMul_mamT_32f_3x3_S2" || m == "tenkMul_maTmT_32f_3x3_S2" ||
            m == "tenkMul_mama_32f_3x3_S2" || m == "tenkMul_mam_32f_3x3_P" || m == "tenkMul_maTm_32f_3x3_P" ||
@@ -90,8 +92,8 @@ TENK_INLINE Block<Element<m>, m.size> loadRight(const View& view)
     } else {
         Block<T, m.size> b;
         each<m.size>([&](auto p) TENK_LAMBDA {
-            b.row[p] = gatherRow<T, m.size>(
-                [&](std::size_t j) TENK_LAMBDA { return elementOf<transposed>(view, p, j); });
+            b.row[p] = gatherRow<T, m.size>([&](std::size_t j)
+                                                TENK_LAMBDA { return elementOf<transposed>(view, p, j); });
         });
         return b;
     }
@@ -106,7 +108,7 @@ TENK_INLINE auto sumOfRows(F term)
                (term(index<4>) + term(index<5>));
     } else {
         auto sum = term(index<0>);
-        each<m.size - 1>([&](auto p) TENK_LAMBDA { sum = sum + term(index<p + 1>); });
+        each<m.size - 1>([&](auto p) TENK_LAMBDA { sum = inRegisters(sum + term(index<p + 1>)); });
         return sum;
     }
 }

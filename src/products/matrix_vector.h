@@ -91,7 +91,8 @@ TENK_INLINE tenkStatus matrixVector(Source<m, 0> src1, Size<m> src1Width, Size<m
     } else {
         constexpr unsigned n = m.size;
         using R = Row<Element<m>, n>;
-        const auto vectorOf = [&](std::size_t k) TENK_LAMBDA { return R::load(src2.object(k, n).row(0)); };
+        const auto vectorOf = [&](std::size_t k)
+                                  TENK_LAMBDA { return inRegisters(R::load(src2.object(k, n).row(0))); };
         const auto write = [&](std::size_t k, const R& row) TENK_LAMBDA -> tenkStatus {
             row.store(dst.object(k, n).row(0));
             return tenkOk;
@@ -115,10 +116,9 @@ TENK_INLINE tenkStatus matrixVector(Source<m, 0> src1, Size<m> src1Width, Size<m
                     return runArrayOfMatrices(std::true_type());
             return runArrayOfMatrices(std::false_type());
         } else if constexpr (m.operand[1].array) {
-            const auto columns = loadColumns<m>(src1.object(0, n));
-            return run([&](std::size_t k) TENK_LAMBDA -> tenkStatus {
-                return write(k, productOfColumns<m>(columns, vectorOf(k)));
-            });
+            const auto matrix = TurnedMatrix<m>::load(src1.object(0, n));
+            return run([&](std::size_t k)
+                           TENK_LAMBDA -> tenkStatus { return write(k, matrix.times(vectorOf(k))); });
         } else {
             return write(0, productOfStored<m>(src1.object(0, n), vectorOf(0)));
         }

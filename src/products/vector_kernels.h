@@ -5,7 +5,7 @@
 //
 //   general sizes, and layouts with steps or tables    s, from +0 on
 //   3x3 with adjacent elements                         s, from t0 on
-//   4x4 to 6x6 with adjacent elements                  the trees of sumOfTerms below
+//   4x4 to 6x6 with adjacent elements                  the trees of sumOfTerms and productOfStored
 #pragma once
 
 #include "products/factors.h"
@@ -26,65 +26,44 @@ consteval bool lastRowSumsOtherwise(Member m)
 // Fixed sizes with adjacent elements
 // ---------------------------------------------------------------------------------------------------------------
 
-// The sum of t(index<0>), t(index<1>), ..., which are elements, vectors or rows.
+// The sum of t(index<0>), t(index<1>), ..., which are rows. Each sum is complete before the next is begun.
 template <Member m, typename F>
 TENK_INLINE auto sumOfTerms(F t)
 {
-    const auto t0 = t(index<0>), t1 = t(index<1>), t2 = t(index<2>);
+    const auto plus = [](const auto& a, const auto& b) TENK_LAMBDA { return inRegisters(a + b); };
+    const auto pair = [&](auto p, auto q) TENK_LAMBDA { return plus(t(p), t(q)); };
+    constexpr Index<0> a;
+    constexpr Index<1> b;
+    constexpr Index<2> c;
     if constexpr (m.size == 3) {
-        return (t0 + t1) + t2;
+        return plus(pair(a, b), t(c));
     } else {
-        const auto t3 = t(index<3>);
-        if constexpr (m.type == Type::f64) {
+        constexpr Index<3> d;
+        constexpr Index<4> e;
+        constexpr Index<5> f;
+        if constexpr (m.type == Type::f32 && m.size == 5) {
+            const auto first = plus(pair(a, b), t(e));
+            return plus(first, pair(c, d));
+        } else if constexpr (m.type == Type::f64 || m.operand[0].transposed) {
+            const auto first = pair(a, b);
+            const auto four = plus(first, pair(c, d));
             if constexpr (m.size == 4)
-                return (t0 + t1) + (t2 + t3);
+                return four;
             else if constexpr (m.size == 5)
-                return ((t0 + t1) + (t2 + t3)) + t(index<4>);
+                return plus(four, t(e));
             else
-                return ((t0 + t1) + (t2 + t3)) + (t(index<4>) + t(index<5>));
-        } else if constexpr (m.operand[0].transposed) {
-            if constexpr (m.size == 4)
-                return (t0 + t1) + (t2 + t3);
-            else if constexpr (m.size == 5)
-                return ((t0 + t1) + t(index<4>)) + (t2 + t3);
-            else
-                return ((t0 + t1) + (t2 + t3)) + (t(index<4>) + t(index<5>));
+                return plus(four, pair(e, f));
         } else {
-            if constexpr (m.size == 4)
-                return (t0 + t2) + (t1 + t3);
-            else if constexpr (m.size == 5)
-                return ((t0 + t1) + t(index<4>)) + (t2 + t3);
-            else
-                return ((t0 + t2) + t(index<4>)) + ((t1 + t3) + t(index<5>));
+            const auto even = pair(a, c);
+            if constexpr (m.size == 4) {
+                return plus(even, pair(b, d));
+            } else {
+                const auto allEven = plus(even, t(e));
+                const auto odd = pair(b, d);
+                return plus(allEven, plus(odd, t(f)));
+            }
         }
     }
-}
-
-// term(index<p>) is a row of terms p, one for each element of the product.
-template <Member m, typename F>
-TENK_INLINE Row<Element<m>, m.size> sumOfRowsOfTerms(F term)
-{
-    Row<Element<m>, m.size> sum = sumOfTerms<m>(term);
-    if constexpr (lastRowSumsOtherwise(m)) {
-        const auto t = [&](auto p) TENK_LAMBDA { return term(p).rest; };
-        sum.rest = ((t(index<0>) + t(index<2>)) + t(index<4>)) + (t(index<1>) + t(index<3>));
-    }
-    return sum;
-}
-
-// The columns of the matrix in rows, by an element of the vector each.
-template <Member m>
-TENK_INLINE Row<Element<m>, m.size> productOfColumns(const Block<Element<m>, m.size>& columns,
-                                                     const Row<Element<m>, m.size>& vector)
-{
-    return sumOfRowsOfTerms<m>([&](auto p) TENK_LAMBDA { return columns.row[p] * repeatElement(vector, p); });
-}
-
-// Columns out of a stored matrix.
-template <Member m, typename View>
-TENK_INLINE Block<Element<m>, m.size> loadColumns(const View& matrix)
-{
-    return loadFactor<Element<m>, m.size, !m.operand[0].transposed>(matrix);
 }
 
 // Two rows side by side in each of the arguments: the even terms of the four plus their odd terms.
@@ -92,39 +71,142 @@ TENK_INLINE Vector<float> evenAndOdd(Vector<float> upper, Vector<float> lower)
 {
     return shuffle<0, 2, 4, 6>(upper, lower) + shuffle<1, 3, 5, 7>(upper, lower);
 }
-
-// The same sums for 32f, untransposed. Parts of two rows are loaded into one vector, so that few shuffles are
-// left to do.
-template <Member m, typename View>
-TENK_INLINE Row<float, m.size> productOfHalves(const View& matrix, const Row<float, m.size>& vector)
+// A row in each of the arguments.
+TENK_INLINE Vector<double> evenAndOdd(Vector<double> upper, Vector<double> lower)
 {
-    Row<float, m.size> sum;
-    if constexpr (m.size == 3) {
-        const auto rows01 = [&](Address offset) TENK_LAMBDA {
-            return loadHalves(matrix.row(0) + offset, matrix.row(1) + offset);
-        };
-        const auto rows12 = [&](Address offset) TENK_LAMBDA {
-            return loadHalves(matrix.row(1) + offset, matrix.row(2) + offset);
-        };
-        const auto v01 = lowPair(vector.rest);
-        const auto column2 = shuffle<1, 3, 5, 7>(rows01(4), rows12(4));
-        sum.rest = evenAndOdd(rows01(0) * v01, rows12(0) * v01) + column2 * repeatLane<3>(vector.rest);
+    return shuffle<0, 2>(upper, lower) + shuffle<1, 3>(upper, lower);
+}
+
+// The sum of the terms of the last row, where n vectors would leave one element of it over.
+template <Member m>
+TENK_INLINE Element<m> sumOfLastRow(const Row<Element<m>, m.size>& terms)
+{
+    const auto first = terms.vector[0];
+    if constexpr (m.type == Type::f64) {
+        const auto sums = m.size == 5 ? evenAndOdd(first, terms.vector[m.size / 2 - 1]) : first;
+        return (sums[0] + sums[1]) + terms.rest;
     } else {
-        const auto halves = [&](auto i) TENK_LAMBDA {
-            const Address upper = matrix.row(i), lower = matrix.row(i + 1);
-            const auto terms = loadHalves(upper, lower) * lowPair(vector.vector[0]) +
-                               loadHalves(upper + 8, lower + 8) * highPair(vector.vector[0]);
-            if constexpr (m.size == 6)
-                return terms + loadHalves(upper + 16, lower + 16) * vector.rest;
-            else
-                return terms;
-        };
-        sum.vector[0] = evenAndOdd(halves(index<0>), halves(index<2>));
-        if constexpr (m.size == 6) {
-            const auto last = halves(index<4>);
-            sum.rest = evenAndOdd(last, last);
+        const auto sums =
+            lastRowSumsOtherwise(m) ? lowPair(first) + highPair(first) : evenAndOdd(first, first);
+        return (sums[0] + terms.rest) + sums[1];
+    }
+}
+
+// A matrix that is used many times: its columns, and by itself the last row where it would be a column of
+// elements that vectors leave over.
+template <Member m>
+struct TurnedMatrix
+{
+    using T = Element<m>;
+    using R = Row<T, m.size>;
+    static constexpr bool transposed = m.operand[0].transposed, lastAlone = R::left == 1;
+    static constexpr unsigned height = m.size - lastAlone;
+
+    Row<T, height> column[m.size];
+    R last;
+
+    template <typename View>
+    TENK_INLINE static TurnedMatrix load(const View& matrix)
+    {
+        TurnedMatrix t;
+        const auto columns = loadFactor<T, m.size, !transposed>(matrix);
+        each<m.size>([&](auto p) TENK_LAMBDA {
+            t.column[p] = Row<T, height>::map([](auto c) TENK_LAMBDA { return c; }, columns.row[p]);
+        });
+        if constexpr (lastAlone)
+            t.last = gatherRow<T, m.size>(
+                [&](std::size_t p) TENK_LAMBDA { return elementOf<transposed>(matrix, m.size - 1, p); });
+        return t;
+    }
+
+    TENK_INLINE R times(const R& vector) const
+    {
+        const auto sum = sumOfTerms<m>([&](auto p) TENK_LAMBDA {
+            const auto factor = repeated(vector, p);
+            return Row<T, height>::map([&](auto c) TENK_LAMBDA { return c * factor; }, column[p]);
+        });
+        if constexpr (lastAlone) {
+            R product;
+            each<R::full>([&](auto v) TENK_LAMBDA { product.vector[v] = sum.vector[v]; });
+            product.rest = sumOfLastRow<m>(last * vector);
+            return product;
+        } else {
+            return sum;
         }
     }
+};
+
+// The same sums for 32f, untransposed. Parts of two rows are loaded into one vector where that leaves fewer
+// shuffles to do.
+template <Member m, typename View>
+TENK_INLINE Row<float, m.size> productOfStoredUntransposed(const View& matrix,
+                                                           const Row<float, m.size>& vector)
+{
+    Row<float, m.size> sum;
+    // Elements j and j + 1 of rows i and i + 1.
+    const auto square = [&](std::size_t i, std::size_t j)
+                            TENK_LAMBDA { return loadHalves(matrix.at(i, j), matrix.at(i + 1, j)); };
+    if constexpr (m.size == 3) {
+        const auto v01 = lowPair(vector.rest);
+        const auto column2 = shuffle<1, 3, 5, 7>(square(0, 1), square(1, 1));
+        sum.rest = evenAndOdd(square(0, 0) * v01, square(1, 0) * v01) + column2 * repeatLane<3>(vector.rest);
+    } else if constexpr (m.size == 6) {
+        const auto v01 = lowPair(vector.vector[0]), v23 = highPair(vector.vector[0]);
+        const auto halves = [&](auto i) TENK_LAMBDA {
+            const auto terms = inRegister(square(i, 0) * v01 + square(i, 2) * v23);
+            return inRegister(terms + square(i, 4) * vector.rest);
+        };
+        sum.vector[0] = inRegister(evenAndOdd(halves(index<0>), halves(index<2>)));
+        const auto last = halves(index<4>);
+        sum.rest = evenAndOdd(last, last);
+    } else {
+        const auto terms = [&](auto i)
+                               TENK_LAMBDA { return loadVector<float>(matrix.row(i)) * vector.vector[0]; };
+        if constexpr (m.size == 4) {
+            const auto halves = [&](auto i) TENK_LAMBDA {
+                const auto upper = terms(i), lower = terms(index<i + 1>);
+                return inRegister(shuffle<0, 1, 4, 5>(upper, lower) + shuffle<2, 3, 6, 7>(upper, lower));
+            };
+            sum.vector[0] = evenAndOdd(halves(index<0>), halves(index<2>));
+        } else {
+            sum.rest = inRegister(sumOfLastRow<m>(Row<float, 5>::load(matrix.row(4)) * vector));
+            const auto upper = inRegister(evenAndOdd(terms(index<0>), terms(index<1>)));
+            const auto lower = inRegister(evenAndOdd(terms(index<2>), terms(index<3>)));
+            const auto column4 = shuffle<1, 3, 5, 7>(square(0, 3), square(2, 3));
+            const auto first =
+                inRegister(shuffle<0, 2, 4, 6>(upper, lower) + column4 * broadcast(vector.rest));
+            sum.vector[0] = first + shuffle<1, 3, 5, 7>(upper, lower);
+        }
+    }
+    return sum;
+}
+
+// And for 64f, two rows at a time.
+template <Member m, typename View>
+TENK_INLINE Row<double, m.size> productOfStoredUntransposed(const View& matrix,
+                                                            const Row<double, m.size>& vector)
+{
+    constexpr unsigned n = m.size;
+    using R = Row<double, n>;
+    R sum;
+    // Each sum is finished before the next terms are begun: all of them would take more registers than there
+    // are.
+    const auto sumsOfPairs = [&](std::size_t i, auto v) TENK_LAMBDA {
+        const auto upper = loadVector<double>(matrix.at(i, 2 * v)) * vector.vector[v];
+        const auto lower = loadVector<double>(matrix.at(i + 1, 2 * v)) * vector.vector[v];
+        return inRegister(evenAndOdd(upper, lower));
+    };
+    each<n / 2>([&](auto r) TENK_LAMBDA {
+        auto s = sumsOfPairs(2 * r, index<0>);
+        each<n / 2 - 1>([&](auto v) TENK_LAMBDA { s = inRegister(s + sumsOfPairs(2 * r, index<v + 1>)); });
+        if constexpr (n % 2 == 1) {
+            const auto ends = loadHalves(matrix.at(2 * r, n - 1), matrix.at(2 * r + 1, n - 1));
+            s = s + reinterpret_cast<Vector<double>>(ends) * broadcast(vector.rest);
+        }
+        sum.vector[r] = inRegister(s);
+    });
+    if constexpr (n % 2 == 1)
+        sum.rest = sumOfLastRow<m>(R::load(matrix.row(n - 1)) * vector);
     return sum;
 }
 
@@ -132,18 +214,12 @@ TENK_INLINE Row<float, m.size> productOfHalves(const View& matrix, const Row<flo
 template <Member m, typename View>
 TENK_INLINE Row<Element<m>, m.size> productOfStored(const View& matrix, const Row<Element<m>, m.size>& vector)
 {
-    using T = Element<m>;
-    using B = Block<T, m.size>;
-    if constexpr (m.operand[0].transposed) {
-        return productOfColumns<m>(B::load(matrix), vector);
-    } else if constexpr (m.type == Type::f32 && m.size != 5) {
-        return productOfHalves<m>(matrix, vector);
-    } else {
-        B rows; // multiplied as they stand, and turned as products
-        each<m.size>([&](auto i) TENK_LAMBDA { rows.row[i] = Row<T, m.size>::load(matrix.row(i)) * vector; });
-        const B terms = transpose(rows);
-        return sumOfRowsOfTerms<m>([&](auto p) TENK_LAMBDA { return terms.row[p]; });
-    }
+    using R = Row<Element<m>, m.size>;
+    if constexpr (m.operand[0].transposed)
+        return sumOfTerms<m>([&](auto p)
+                                 TENK_LAMBDA { return R::load(matrix.row(p)) * repeatElement(vector, p); });
+    else
+        return productOfStoredUntransposed<m>(matrix, vector);
 }
 
 // ---------------------------------------------------------------------------------------------------------------
@@ -185,14 +261,15 @@ TENK_INLINE Row<Element<m>, rows> vectorTile(const Matrix& matrix, const Vec& ve
     using R = Row<T, rows>;
     R sum = R::repeat(0);
     std::size_t p = 0;
-    if constexpr (!m.operand[0].transposed && m.type == Type::f32 && rows % 4 == 0)
-        for (; p + 4 <= terms; p += 4) {
-            const auto factors = Row<T, 4>::load(vector.at(0, p));
-            each<rows / 4>([&](auto v) TENK_LAMBDA {
-                const DenseView<T> tile{matrix.at(i + v * 4, p), matrix.rowStep};
-                const auto columns = loadFactor<T, 4, true>(tile);
-                each<4>([&](auto q) TENK_LAMBDA {
-                    sum.vector[v] = sum.vector[v] + (columns.row[q] * repeatElement(factors, q)).vector[0];
+    constexpr unsigned side = lanes<T>; // of a square that is turned in registers
+    if constexpr (!m.operand[0].transposed && rows % side == 0)
+        for (; p + side <= terms; p += side) {
+            const auto factors = Row<T, side>::load(vector.at(0, p));
+            each<rows / side>([&](auto v) TENK_LAMBDA {
+                const DenseView<T> square{matrix.at(i + v * side, p), matrix.rowStep};
+                const auto columns = loadFactor<T, side, true>(square);
+                each<side>([&](auto q) TENK_LAMBDA {
+                    sum.vector[v] = sum.vector[v] + columns.row[q].vector[0] * repeated(factors, q);
                 });
             });
         }

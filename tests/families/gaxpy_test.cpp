@@ -242,11 +242,14 @@ TEST(Gaxpy, TablesOfAWideMatrixAreTestedByItsWidthAndHeight)
 {
     // Width 3, height 2: entry 2 of the tables of src3 and dst is nobody's.
     float a[6] = {1, 2, 3, 4, 5, 6}, x[3] = {1, 10, 100}, y[2] = {1000, 2000}, d[2] = {};
-    float *pa[] = {&a[0], &a[1], &a[2], &a[3], &a[4], &a[5]}, *px[] = {&x[0], &x[1], &x[2]};
+    float *pa[] = {&a[0], &a[1], &a[2], &a[3], &a[4], &a[5], nullptr}, *px[] = {&x[0], &x[1], &x[2]};
     float *py[] = {&y[0], &y[1], nullptr}, *pd[] = {&d[0], &d[1], nullptr};
     EXPECT_EQ(tenkGaxpy_va_32f_P(pa, 0, px, 0, py, 0, pd, 0, 3, 2, 1), tenkOk);
     EXPECT_EQ(d[0], 1321);
     EXPECT_EQ(d[1], 2654);
+    pa[5] = nullptr;
+    EXPECT_EQ(tenkGaxpy_va_32f_P(pa, 0, px, 0, py, 0, pd, 0, 3, 2, 1), tenkNullPointerError);
+    pa[5] = &a[5];
     px[2] = nullptr;
     EXPECT_EQ(tenkGaxpy_va_32f_P(pa, 0, px, 0, py, 0, pd, 0, 3, 2, 1), tenkNullPointerError);
 }
@@ -336,6 +339,13 @@ TEST(Gaxpy, OthersKeepTheRunningSumInTheDestination)
     EXPECT_EQ(tenkGaxpy_v_64f(a, 16, v, w, w, 2, 2), tenkOk);
     EXPECT_EQ(w[0], 64);
     EXPECT_EQ(w[1], 150);
+    // Over the matrix, one element in: 0, 2 x 1, + 2 x 10, + 100 = 122 where the 2 is the sum itself, then 0,
+    // 0 x 1,
+    // + 7 x 10, + 200.
+    double b[] = {2, 3, 5, 7};
+    const double z[] = {100, 200};
+    EXPECT_EQ(tenkGaxpy_v_64f(b, 16, v, z, b + 1, 2, 2), tenkOk);
+    EXPECT_EQ((std::array{b[0], b[1], b[2], b[3]}), (std::array{2., 122., 270., 7.}));
     const float ones[9] = {1, 1, 1, 1, 1, 1, 1, 1, 1}, p[] = {1, 2, 3};
     float q[] = {10, 20, 30};
     EXPECT_EQ(tenkGaxpy_v_32f_3x3_S2(ones, 12, 4, p, 4, q, 4, q, 4), tenkOk);

@@ -508,6 +508,33 @@ TEST(MulMatrix, TheProductOfTheSizesComparedTellsHowManyDestinationEntriesAreTes
     EXPECT_EQ(withNullDestinationEntry("tenkMul_maTmT_32f_P", {2, 3, 3, 1}, 9), tenkOk);
 }
 
+// Of the sources as many entries are tested as the product of their own two sizes, whatever the loops read.
+TEST(MulMatrix, EntriesOfTheSourcesAreTestedByTheirOwnSizes)
+{
+    static float element = 1;
+    const auto status = [](const char* name, Shape s, int operand, unsigned entry) {
+        std::vector<float*> tables[3];
+        for (auto& t : tables)
+            t.assign(64, &element);
+        static float result;
+        tables[2].assign(64, &result);
+        tables[operand][entry] = nullptr;
+        return call(name, {pointer(tables[0].data()), word(0), word(s.width1), word(s.height1),
+                           pointer(tables[1].data()), word(0), word(s.width2), word(s.height2),
+                           pointer(tables[2].data()), word(0), word(1)});
+    };
+    // 2 rows of 3 by 3 rows of 4: 6 and 12 entries.
+    EXPECT_EQ(status("tenkMul_mam_32f_P", {3, 2, 4, 3}, 0, 5), tenkNullPointerError);
+    EXPECT_EQ(status("tenkMul_mam_32f_P", {3, 2, 4, 3}, 0, 6), tenkOk);
+    EXPECT_EQ(status("tenkMul_mam_32f_P", {3, 2, 4, 3}, 1, 11), tenkNullPointerError);
+    EXPECT_EQ(status("tenkMul_mam_32f_P", {3, 2, 4, 3}, 1, 12), tenkOk);
+    // The second transposed, of width 3 and height 2: 6 and 6.
+    EXPECT_EQ(status("tenkMul_mamT_32f_P", {3, 2, 3, 2}, 0, 5), tenkNullPointerError);
+    EXPECT_EQ(status("tenkMul_mamT_32f_P", {3, 2, 3, 2}, 0, 6), tenkOk);
+    EXPECT_EQ(status("tenkMul_mamT_32f_P", {3, 2, 3, 2}, 1, 5), tenkNullPointerError);
+    EXPECT_EQ(status("tenkMul_mamT_32f_P", {3, 2, 3, 2}, 1, 6), tenkOk);
+}
+
 // A row of the table of a transposed operand has as many entries as its height argument says.
 TEST(MulMatrix, TablesOfTransposedOperandsHaveRowsOfTheirHeight)
 {
@@ -603,6 +630,7 @@ struct Placed
         return x;
     }
     Arguments arguments() const { return {pointer(start), word(stride0), word(stride1)}; }
+    Arguments asSingle() const { return {pointer(start), word(stride1)}; }
 };
 
 // Which object of the left factor object 1 of the product was made with; -1 if neither.
@@ -616,7 +644,7 @@ int leftOfObject1(const Code& c, Placed<T>& a, Placed<T>& b, Placed<T>& d)
                 T sum = 0;
                 for (unsigned p = 0; p < a.n; ++p)
                     sum += (c.transposed1 ? a.get(unsigned(k), p, i) : a.get(unsigned(k), i, p)) *
-                           (c.transposed2 ? b.get(1, j, p) : b.get(1, p, j));
+                           (c.transposed2 ? b.get(c.array2, j, p) : b.get(c.array2, p, j));
                 same = same && d.get(1, i, j) == sum;
             }
         if (same)
@@ -681,6 +709,27 @@ TEST(MulMatrix, AlignedArraysOf32fAndOfGeneralSizeGoObjectByObject)
             tenkOk);
         EXPECT_EQ(leftOfObject1(c, e, f, g), 1) << general << "_4x4_L";
     }
+}
+
+TEST(MulMatrix, AlignedArraysOf64fByASingleMatrixOrInStepsGoObjectByObject)
+{
+    for (const Code& c : codes)
+        for (const unsigned n : {3U, 4U, 5U, 6U}) {
+            if (!c.array1)
+                continue;
+            const std::string name = "tenkMul_" + c.name + "_64f" + sizeName(n);
+            Placed<double> a(n, 0, 0, 0, 1), b(n, 0, 0, 0, 2), d(n, 0, 0, 0, 3);
+            if (!c.array2) {
+                ASSERT_EQ(call(name, a.arguments() + b.asSingle() + d.arguments() + words({2})), tenkOk);
+                EXPECT_EQ(leftOfObject1(c, a, b, d), 1) << name;
+                continue;
+            }
+            const Arguments step = words({8});
+            ASSERT_EQ(call(name + "_S2",
+                           a.arguments() + step + b.arguments() + step + d.arguments() + step + words({2})),
+                      tenkOk);
+            EXPECT_EQ(leftOfObject1(c, a, b, d), 1) << name << "_S2";
+        }
 }
 
 // In place on a source that is an array exactly if the destination is one.

@@ -264,6 +264,19 @@ TEST(MulVector, TreesByHand)
     EXPECT_EQ(d[4], 1);
 }
 
+// (big + 1 = big) - big, fixed and general.
+TEST(MulVector, ThreeByThreeSumsLikeTheGeneralMembers)
+{
+    const float big = 16777216, ones[9] = {1, 1, 1, 1, 1, 1, 1, 1, 1}, v[] = {big, 1, -big};
+    float fixed[3], general[3];
+    EXPECT_EQ(tenkMul_mv_32f_3x3(ones, 12, v, fixed), tenkOk);
+    EXPECT_EQ(tenkMul_mv_32f(ones, 12, 3, 3, v, 3, general), tenkOk);
+    for (unsigned i = 0; i < 3; ++i) {
+        EXPECT_EQ(fixed[i], 0);
+        EXPECT_EQ(general[i], 0);
+    }
+}
+
 TEST(MulVector, TermsOfNegativeZeroKeepTheirSignInKernelsAlone)
 {
     eachMember([]<typename T>(const Code& c, const std::string& layout, unsigned n) {
@@ -455,6 +468,37 @@ TEST(MulVector, UntransposedArraysTestAsManyDestinationEntriesAsTheHeight)
     EXPECT_EQ(d[1], 654);
     pd[1] = nullptr;
     EXPECT_EQ(tenkMul_mava_32f_P(pa, 0, 3, 2, pv, 0, 3, pd, 0, 1), tenkNullPointerError);
+}
+
+// Of the sources as many entries as the matrix has elements, and the vector its length.
+TEST(MulVector, EntriesOfTheSourcesAreTestedByTheirOwnSizes)
+{
+    static float element = 1, result;
+    const auto status = [](const char* name, std::uint32_t width, std::uint32_t height, std::uint32_t length,
+                           int operand, unsigned entry) {
+        std::vector<float*> tables[3];
+        for (auto& t : tables)
+            t.assign(16, &element);
+        tables[2].assign(16, &result);
+        tables[operand][entry] = nullptr;
+        return call(name,
+                    {pointer(tables[0].data()), word(0), word(width), word(height), pointer(tables[1].data()),
+                     word(0), word(length), pointer(tables[2].data()), word(0), word(1)});
+    };
+    for (const char* name : {"tenkMul_mva_32f_P", "tenkMul_mav_32f_P", "tenkMul_mava_32f_P"}) {
+        EXPECT_EQ(status(name, 3, 2, 3, 0, 5), tenkNullPointerError) << name;
+        EXPECT_EQ(status(name, 3, 2, 3, 0, 6), tenkOk) << name;
+        EXPECT_EQ(status(name, 2, 3, 2, 0, 5), tenkNullPointerError) << name;
+        EXPECT_EQ(status(name, 3, 2, 3, 1, 2), tenkNullPointerError) << name;
+        EXPECT_EQ(status(name, 3, 2, 3, 1, 3), tenkOk) << name;
+    }
+    // Sums of 2 terms, but the third entry of the vector is tested.
+    for (const char* name : {"tenkMul_mTva_32f_P", "tenkMul_maTv_32f_P", "tenkMul_maTva_32f_P"}) {
+        EXPECT_EQ(status(name, 2, 3, 3, 0, 5), tenkNullPointerError) << name;
+        EXPECT_EQ(status(name, 2, 3, 3, 0, 6), tenkOk) << name;
+        EXPECT_EQ(status(name, 2, 3, 3, 1, 2), tenkNullPointerError) << name;
+        EXPECT_EQ(status(name, 2, 3, 3, 1, 3), tenkOk) << name;
+    }
 }
 
 TEST(MulVector, SingleMembersBehindTablesTestOnTheWay)
