@@ -33,10 +33,14 @@ TENK_INLINE Quad refined3(float d)
     const Quad v = broadcast(d), x = _mm_rcp_ps(v);
     return (x + x) - ((v * x) * x);
 }
+TENK_INLINE Quad refined(Quad v)
+{
+    const Quad x = _mm_rcp_ps(v);
+    return (x + x) - (v * (x * x));
+}
 TENK_INLINE Quad refined(float d)
 {
-    const Quad v = broadcast(d), x = _mm_rcp_ps(v);
-    return (x + x) - (v * (x * x));
+    return refined(broadcast(d));
 }
 
 // ---------------------------------------------------------------------------------------------------------------
@@ -78,36 +82,44 @@ struct Cofactors4
             const Quad both = r[a] * next[b];
             return Products{exchangeLanes<2>(both), exchangeLanes<3>(both)};
         };
-        const Products p01 = products(0, 1), p02 = products(0, 2), p03 = products(0, 3);
-        const Products p12 = products(1, 2), p13 = products(1, 3), p23 = products(2, 3);
         const auto triples = [&](unsigned i, const Products& p)
                                  TENK_LAMBDA { return next[i] * p.plus - next[i] * p.minus; };
+        // As few products at a time as possible: registers are scarce.
+        const Products p23 = products(2, 3), p12 = products(1, 2), p13 = products(1, 3);
         row[0] = (triples(1, p23) + triples(3, p12)) - triples(2, p13);
+        const Products p03 = products(0, 3), p02 = products(0, 2);
         row[1] = triples(2, p03) - (triples(0, p23) + triples(3, p02));
+        const Products p01 = products(0, 1);
         row[2] = (triples(0, p13) + triples(3, p01)) - triples(1, p03);
         row[3] = triples(1, p02) - (triples(0, p12) + triples(2, p01));
     }
-
-    TENK_INLINE float determinant(const Quad (&r)[4]) const
-    {
-        const auto product = [&](unsigned i) TENK_LAMBDA { return r[i][0] * row[i][0]; };
-        return (product(3) + product(1)) + (product(2) + product(0));
-    }
 };
+
+// (a30 C30 + a10 C10) + (a20 C20 + a00 C00), in every lane, from column 0 of the matrix and of its cofactors.
+TENK_INLINE Quad determinant4(Quad elements, Quad cofactors)
+{
+    const Quad products = elements * cofactors;
+    const Quad pairs = products + exchangeLanes<2>(products);
+    return pairs + exchangeLanes<1>(pairs);
+}
 
 // Returns false, with no inverse, if the determinant is 0.
 TENK_INLINE bool invert4(const Quad (&r)[4], Block4& inverse)
 {
     const Cofactors4 cofactors(r);
-    const float determinant = cofactors.determinant(r);
-    if (determinant == 0)
+    Block<float, 4> rows;
+    each<4>([&](auto i) TENK_LAMBDA { rows.row[i].vector[0] = cofactors.row[i]; });
+    const Block<float, 4> adjugate = transpose(rows);
+    const Quad column0 =
+        shuffle<0, 1, 4, 5>(shuffle<0, 4, 1, 5>(r[0], r[1]), shuffle<0, 4, 1, 5>(r[2], r[3]));
+    const Quad determinant = determinant4(column0, adjugate.row[0].vector[0]);
+    if (determinant[0] == 0)
         return false;
     const Quad scale = refined(determinant);
-    Block<float, 4> scaled;
-    each<4>([&](auto i)
-                TENK_LAMBDA { scaled.row[i].vector[0] = inverse.column[i] = cofactors.row[i] * scale; });
-    const auto transposed = transpose(scaled);
-    each<4>([&](auto i) TENK_LAMBDA { inverse.row[i] = transposed.row[i].vector[0]; });
+    each<4>([&](auto i) TENK_LAMBDA {
+        inverse.row[i] = adjugate.row[i].vector[0] * scale;
+        inverse.column[i] = cofactors.row[i] * scale;
+    });
     return true;
 }
 
