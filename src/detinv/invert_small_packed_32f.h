@@ -6,6 +6,7 @@
 // block. Nothing is written before a matrix is known to be regular.
 #pragma once
 
+#include "detinv/cofactors4.h"
 #include "detinv/column_exchange.h"
 #include "detinv/limits.h"
 
@@ -53,47 +54,12 @@ struct Block4
     Quad column[4];
 };
 
-// Lane j of the result is lane j ^ bits. Exchanges of this kind are even permutations of the columns, so a
-// cofactor comes out with its sign in every lane.
+// Lane j of the result is lane j ^ bits.
 template <unsigned bits>
 TENK_INLINE Quad exchangeLanes(Quad v)
 {
     return reorder<0 ^ bits, 1 ^ bits, 2 ^ bits, 3 ^ bits>(v);
 }
-
-// The signed cofactors of each row, each the sum of six products of three elements. In every lane j, with [b]
-// for lane j ^ b, those of row 0 are
-//     r1[1] (r2[2] r3[3] - r2[3] r3[2]) + r3[1] (r1[2] r2[3] - r1[3] r2[2]) - r2[1] (r1[2] r3[3] - r1[3]
-//     r3[2])
-// with the products multiplied out.
-struct Cofactors4
-{
-    Quad row[4];
-
-    TENK_INLINE explicit Cofactors4(const Quad (&r)[4])
-    {
-        Quad next[4]; // r[1]
-        each<4>([&](auto i) TENK_LAMBDA { next[i] = exchangeLanes<1>(r[i]); });
-        struct Products
-        {
-            Quad plus, minus; // a[2] b[3] and a[3] b[2]
-        };
-        const auto products = [&](unsigned a, unsigned b) TENK_LAMBDA {
-            const Quad both = r[a] * next[b];
-            return Products{exchangeLanes<2>(both), exchangeLanes<3>(both)};
-        };
-        const auto triples = [&](unsigned i, const Products& p)
-                                 TENK_LAMBDA { return next[i] * p.plus - next[i] * p.minus; };
-        // As few products at a time as possible: registers are scarce.
-        const Products p23 = products(2, 3), p12 = products(1, 2), p13 = products(1, 3);
-        row[0] = (triples(1, p23) + triples(3, p12)) - triples(2, p13);
-        const Products p03 = products(0, 3), p02 = products(0, 2);
-        row[1] = triples(2, p03) - (triples(0, p23) + triples(3, p02));
-        const Products p01 = products(0, 1);
-        row[2] = (triples(0, p13) + triples(3, p01)) - triples(1, p03);
-        row[3] = triples(1, p02) - (triples(0, p12) + triples(2, p01));
-    }
-};
 
 // (a30 C30 + a10 C10) + (a20 C20 + a00 C00), in every lane, from column 0 of the matrix and of its cofactors.
 TENK_INLINE Quad determinant4(Quad elements, Quad cofactors)
@@ -106,9 +72,15 @@ TENK_INLINE Quad determinant4(Quad elements, Quad cofactors)
 // Returns false, with no inverse, if the determinant is 0.
 TENK_INLINE bool invert4(const Quad (&r)[4], Block4& inverse)
 {
-    const Cofactors4 cofactors(r);
+    Quad next[4], cofactors[4];
+    each<4>([&](auto i) TENK_LAMBDA { next[i] = exchangeLanes<1>(r[i]); });
+    const auto products = [&](unsigned i, unsigned j) TENK_LAMBDA {
+        const Quad both = r[i] * next[j];
+        return Products2<Quad>{exchangeLanes<2>(both), exchangeLanes<3>(both)};
+    };
+    cofactors4(next, products, cofactors);
     Block<float, 4> rows;
-    each<4>([&](auto i) TENK_LAMBDA { rows.row[i].vector[0] = cofactors.row[i]; });
+    each<4>([&](auto i) TENK_LAMBDA { rows.row[i].vector[0] = cofactors[i]; });
     const Block<float, 4> adjugate = transpose(rows);
     const Quad column0 =
         shuffle<0, 1, 4, 5>(shuffle<0, 4, 1, 5>(r[0], r[1]), shuffle<0, 4, 1, 5>(r[2], r[3]));
@@ -118,7 +90,7 @@ TENK_INLINE bool invert4(const Quad (&r)[4], Block4& inverse)
     const Quad scale = refined(determinant);
     each<4>([&](auto i) TENK_LAMBDA {
         inverse.row[i] = adjugate.row[i].vector[0] * scale;
-        inverse.column[i] = cofactors.row[i] * scale;
+        inverse.column[i] = cofactors[i] * scale;
     });
     return true;
 }

@@ -7,6 +7,7 @@
 // passed.
 #pragma once
 
+#include "detinv/cofactors4.h"
 #include "detinv/column_exchange.h"
 #include "detinv/limits.h"
 
@@ -37,6 +38,7 @@ TENK_INLINE Row<double, n> operator*(double factor, const Row<double, n>& row)
 // The elements 2 of rows 0 and 1 are a pair of the cross product of rows 0 and 1 of the matrix.
 TENK_INLINE bool invertBlock(Block<double, 3>& a)
 {
+    each<3>([&](auto i) TENK_LAMBDA { a.row[i].vector[0] = inRegister(a.row[i].vector[0]); });
     const auto& r = a.row;
     const auto lastOf = [&](unsigned i, unsigned j) TENK_LAMBDA { return Pair{r[i].rest, r[j].rest}; };
     struct Column
@@ -68,42 +70,29 @@ TENK_INLINE bool invertBlock(Block<double, 3>& a)
     return true;
 }
 
-// The cofactors of a row are sums of six products of three elements, as in 32f. Those in one pair of columns
-// take products of two elements from the other pair alone: with few of these at a time, registers suffice.
+// Two rows of the adjugate of order 4, from 2 v on: the cofactors in vector v of each row, which take
+// products of two elements from the other vectors alone.
 template <std::size_t v>
-TENK_INLINE void cofactors4(const Block<double, 4>& a, Block<double, 4>& cofactors)
+TENK_INLINE void adjugateRows(const Block<double, 4>& a, Block<double, 4>& adjugate)
 {
-    Pair here[4], next[4], nextThere[4];
-    each<4>([&](auto i) TENK_LAMBDA {
-        here[i] = a.row[i].vector[1 - v];
-        next[i] = exchangePair(a.row[i].vector[1 - v]);
-        nextThere[i] = exchangePair(a.row[i].vector[v]);
-    });
-    struct Products
-    {
-        Pair plus, minus;
-    };
+    Pair next[4], c[4];
+    each<4>([&](auto i) TENK_LAMBDA { next[i] = exchangePair(a.row[i].vector[v]); });
     const auto products = [&](unsigned i, unsigned j) TENK_LAMBDA {
-        const Pair both = here[i] * next[j];
-        return Products{both, exchangePair(both)};
+        const Pair both = a.row[i].vector[1 - v] * exchangePair(a.row[j].vector[1 - v]);
+        return Products2<Pair>{both, exchangePair(both)};
     };
-    const auto triples = [&](unsigned i, const Products& p)
-                             TENK_LAMBDA { return nextThere[i] * p.plus - nextThere[i] * p.minus; };
-    const Products p23 = products(2, 3), p12 = products(1, 2), p13 = products(1, 3);
-    cofactors.row[0].vector[v] = (triples(1, p23) + triples(3, p12)) - triples(2, p13);
-    const Products p03 = products(0, 3), p02 = products(0, 2);
-    cofactors.row[1].vector[v] = triples(2, p03) - (triples(0, p23) + triples(3, p02));
-    const Products p01 = products(0, 1);
-    cofactors.row[2].vector[v] = (triples(0, p13) + triples(3, p01)) - triples(1, p03);
-    cofactors.row[3].vector[v] = triples(1, p02) - (triples(0, p12) + triples(2, p01));
+    cofactors4(next, products, c);
+    adjugate.row[2 * v] = {{shuffle<0, 2>(c[0], c[1]), shuffle<0, 2>(c[2], c[3])}, {}};
+    adjugate.row[2 * v + 1] = {{shuffle<1, 3>(c[0], c[1]), shuffle<1, 3>(c[2], c[3])}, {}};
 }
 
 TENK_INLINE bool invertBlock(Block<double, 4>& a)
 {
-    Block<double, 4> cofactors;
-    cofactors4<0>(a, cofactors);
-    cofactors4<1>(a, cofactors);
-    const Block<double, 4> adjugate = transpose(cofactors);
+    each<4>([&](auto i) TENK_LAMBDA {
+        each<2>([&](auto v) TENK_LAMBDA { a.row[i].vector[v] = inRegister(a.row[i].vector[v]); });
+    });
+    Block<double, 4> adjugate;
+    adjugateRows<0>(a, adjugate);
     // (a00 C00 + a20 C20) + (a10 C10 + a30 C30), in both lanes.
     const auto& r = a.row;
     const Pair terms = shuffle<0, 2>(r[0].vector[0], r[1].vector[0]) * adjugate.row[0].vector[0] +
@@ -111,7 +100,9 @@ TENK_INLINE bool invertBlock(Block<double, 4>& a)
     const Pair determinant = terms + exchangePair(terms);
     if (determinant[0] == 0)
         return false;
-    const Pair reciprocal = broadcast(1.0) / determinant;
+    // Divided while the other rows are on their way.
+    const Pair reciprocal = inRegister(broadcast(1.0) / determinant);
+    adjugateRows<1>(a, adjugate);
     a = Block<double, 4>::map([&](Pair x) TENK_LAMBDA { return reciprocal * x; }, adjugate);
     return true;
 }
