@@ -6,7 +6,6 @@
 // block. Nothing is written before a matrix is known to be regular.
 #pragma once
 
-#include "detinv/cofactors4.h"
 #include "detinv/column_exchange.h"
 #include "detinv/limits.h"
 
@@ -48,50 +47,68 @@ TENK_INLINE Quad refined(float d)
 // Order 4, as a block in registers
 // ---------------------------------------------------------------------------------------------------------------
 
-struct Block4
-{
-    Quad row[4];
-    Quad column[4];
-};
-
-// Lane j of the result is lane j ^ bits.
+// Lane j of the result is lane j ^ bits. Exchanges of this kind are even permutations of the columns, so a
+// cofactor comes out with its sign in every lane.
 template <unsigned bits>
 TENK_INLINE Quad exchangeLanes(Quad v)
 {
     return reorder<0 ^ bits, 1 ^ bits, 2 ^ bits, 3 ^ bits>(v);
 }
 
-// (a30 C30 + a10 C10) + (a20 C20 + a00 C00), in every lane, from column 0 of the matrix and of its cofactors.
-TENK_INLINE Quad determinant4(Quad elements, Quad cofactors)
+// The signed cofactors of each row, each the sum of six products of three elements. In every lane j, with [b]
+// for lane j ^ b, those of row 0 are
+//     r1[1] (r2[2] r3[3] - r2[3] r3[2]) + r3[1] (r1[2] r2[3] - r1[3] r2[2]) - r2[1] (r1[2] r3[3] - r1[3]
+//     r3[2])
+// with the products multiplied out.
+TENK_INLINE void cofactorsOf(const Quad (&r)[4], Quad (&cofactors)[4])
 {
-    const Quad products = elements * cofactors;
-    const Quad pairs = products + exchangeLanes<2>(products);
-    return pairs + exchangeLanes<1>(pairs);
+    Quad next[4]; // r[1]
+    each<4>([&](auto i) TENK_LAMBDA { next[i] = exchangeLanes<1>(r[i]); });
+    struct Products
+    {
+        Quad plus, minus; // a[2] b[3] and a[3] b[2]
+    };
+    const auto products = [&](unsigned a, unsigned b) TENK_LAMBDA {
+        const Quad both = r[a] * next[b];
+        return Products{exchangeLanes<2>(both), exchangeLanes<3>(both)};
+    };
+    const Products p01 = products(0, 1), p02 = products(0, 2), p03 = products(0, 3);
+    const Products p12 = products(1, 2), p13 = products(1, 3), p23 = products(2, 3);
+    const auto triples = [&](unsigned i, const Products& p)
+                             TENK_LAMBDA { return next[i] * p.plus - next[i] * p.minus; };
+    cofactors[0] = (triples(1, p23) + triples(3, p12)) - triples(2, p13);
+    cofactors[1] = triples(2, p03) - (triples(0, p23) + triples(3, p02));
+    cofactors[2] = (triples(0, p13) + triples(3, p01)) - triples(1, p03);
+    cofactors[3] = triples(1, p02) - (triples(0, p12) + triples(2, p01));
 }
+
+TENK_INLINE void transpose(const Quad (&from)[4], Quad (&to)[4])
+{
+    Block<float, 4> block;
+    each<4>([&](auto i) TENK_LAMBDA { block.row[i].vector[0] = from[i]; });
+    const auto transposed = transpose(block);
+    each<4>([&](auto i) TENK_LAMBDA { to[i] = transposed.row[i].vector[0]; });
+}
+
+// What orders 5 and 6 are bordered around.
+struct Block4
+{
+    Quad row[4];
+    Quad column[4];
+};
 
 // Returns false, with no inverse, if the determinant is 0.
 TENK_INLINE bool invert4(const Quad (&r)[4], Block4& inverse)
 {
-    Quad next[4], cofactors[4];
-    each<4>([&](auto i) TENK_LAMBDA { next[i] = exchangeLanes<1>(r[i]); });
-    const auto products = [&](unsigned i, unsigned j) TENK_LAMBDA {
-        const Quad both = r[i] * next[j];
-        return Products2<Quad>{exchangeLanes<2>(both), exchangeLanes<3>(both)};
-    };
-    cofactors4(next, products, cofactors);
-    Block<float, 4> rows;
-    each<4>([&](auto i) TENK_LAMBDA { rows.row[i].vector[0] = cofactors[i]; });
-    const Block<float, 4> adjugate = transpose(rows);
-    const Quad column0 =
-        shuffle<0, 1, 4, 5>(shuffle<0, 4, 1, 5>(r[0], r[1]), shuffle<0, 4, 1, 5>(r[2], r[3]));
-    const Quad determinant = determinant4(column0, adjugate.row[0].vector[0]);
-    if (determinant[0] == 0)
+    Quad cofactors[4];
+    cofactorsOf(r, cofactors);
+    const auto product = [&](unsigned i) TENK_LAMBDA { return r[i][0] * cofactors[i][0]; };
+    const float determinant = (product(3) + product(1)) + (product(2) + product(0));
+    if (determinant == 0)
         return false;
     const Quad scale = refined(determinant);
-    each<4>([&](auto i) TENK_LAMBDA {
-        inverse.row[i] = adjugate.row[i].vector[0] * scale;
-        inverse.column[i] = cofactors[i] * scale;
-    });
+    each<4>([&](auto i) TENK_LAMBDA { inverse.column[i] = cofactors[i] * scale; });
+    transpose(inverse.column, inverse.row);
     return true;
 }
 
@@ -275,12 +292,20 @@ struct Packed<float, 4>
 {
     TENK_INLINE static bool invert(const DenseView<float>& from, const DenseView<float>& to)
     {
-        Quad rows[4];
+        Quad rows[4], cofactors[4], adjugate[4];
         each<4>([&](auto i) TENK_LAMBDA { rows[i] = loadVector<float>(from.row(i)); });
-        Block4 inverse;
-        if (!invert4(rows, inverse))
+        cofactorsOf(rows, cofactors);
+        transpose(cofactors, adjugate);
+        // The determinant in every lane, with the products of column 0 in one vector.
+        const Quad column0 =
+            shuffle<0, 1, 4, 5>(shuffle<0, 4, 1, 5>(rows[0], rows[1]), shuffle<0, 4, 1, 5>(rows[2], rows[3]));
+        const Quad products = column0 * adjugate[0];
+        const Quad sums = products + exchangeLanes<2>(products);
+        const Quad determinant = exchangeLanes<1>(sums) + sums;
+        if (determinant[0] == 0)
             return false;
-        each<4>([&](auto i) TENK_LAMBDA { storeVector<float>(to.row(i), inverse.row[i]); });
+        const Quad scale = refined(determinant);
+        each<4>([&](auto i) TENK_LAMBDA { storeVector<float>(to.row(i), adjugate[i] * scale); });
         return true;
     }
 };
