@@ -101,6 +101,7 @@ TENK_INLINE W determinant(A a)
     constexpr bool wide = sizeof(W) > 8;
     constexpr Expansion<n, wide> expansion;
     W minors[1U << n];
+    each<n>([&](auto j) TENK_LAMBDA { minors[1U << j] = a(n - 1, j); });
     each<expansion.steps>([&](auto i) TENK_LAMBDA {
         constexpr unsigned set = expansion.step[i].set, column = expansion.step[i].column;
         constexpr unsigned before = __builtin_popcount(set & ((1U << column) - 1));
@@ -108,11 +109,9 @@ TENK_INLINE W determinant(A a)
         if constexpr (wide)
             asm volatile("" ::: "memory");
         constexpr unsigned order = __builtin_popcount(set), others = set & ~(1U << column);
-        W term = a(n - order, column);
-        if constexpr (order == 2)
-            term = term * a(n - 1, __builtin_ctz(others));
-        else
-            term = term * minors[others];
+        if constexpr (wide && order == 2)
+            minors[others] = a(n - 1, __builtin_ctz(others));
+        const W term = a(n - order, column) * minors[others];
         if constexpr (before == 0)
             minors[set] = term;
         else if constexpr (before % 2 == 1)
