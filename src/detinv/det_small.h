@@ -61,35 +61,57 @@ struct Step
     unsigned set, column;
 };
 
-template <unsigned n>
+template <unsigned n, bool wide>
 struct Expansion
 {
     static constexpr unsigned steps =
         n * (1U << (n - 1)) - n; // all pairs of a set and a column in it, but sets of one
     Step step[steps]{};
 
-    // All minors of an order, then those of the next: with this order the compiler keeps the fewest aside.
+    // In the wide unit each minor is computed when it is first needed, for it has eight registers and what is
+    // kept aside is slow to come back. Elsewhere all minors of an order, then those of the next.
     consteval Expansion()
     {
-        unsigned length = 0;
-        for (int order = 2; order <= static_cast<int>(n); ++order)
+        for (int order = wide ? static_cast<int>(n) : 2; order <= static_cast<int>(n); ++order)
             for (unsigned set = 0; set < 1U << n; ++set)
-                for (unsigned column = 0; column < n; ++column)
-                    if (__builtin_popcount(set) == order && (set >> column & 1) != 0)
-                        step[length++] = {set, column};
+                if (__builtin_popcount(set) == order)
+                    expand(set);
+    }
+
+private:
+    bool done[1U << n]{};
+    unsigned length = 0;
+
+    consteval void expand(unsigned set)
+    {
+        if (__builtin_popcount(set) == 1 || done[set])
+            return;
+        for (unsigned column = 0; column < n; ++column)
+            if ((set >> column & 1) != 0) {
+                expand(set & ~(1U << column));
+                step[length++] = {set, column};
+            }
+        done[set] = true;
     }
 };
 
 template <typename W, unsigned n, typename A>
 TENK_INLINE W determinant(A a)
 {
-    constexpr Expansion<n> expansion;
+    constexpr bool wide = sizeof(W) > 8;
+    constexpr Expansion<n, wide> expansion;
     W minors[1U << n];
     each<n>([&](auto j) TENK_LAMBDA { minors[1U << j] = a(n - 1, j); });
     each<expansion.steps>([&](auto i) TENK_LAMBDA {
         constexpr unsigned set = expansion.step[i].set, column = expansion.step[i].column;
         constexpr unsigned before = __builtin_popcount(set & ((1U << column) - 1));
-        const W term = a(n - __builtin_popcount(set), column) * minors[set & ~(1U << column)];
+        // Elements are read again for each product: kept in the wide unit, they would drive minors out of it.
+        if constexpr (wide)
+            asm volatile("" ::: "memory");
+        constexpr unsigned order = __builtin_popcount(set), others = set & ~(1U << column);
+        if constexpr (wide && order == 2)
+            minors[others] = a(n - 1, __builtin_ctz(others));
+        const W term = a(n - order, column) * minors[others];
         if constexpr (before == 0)
             minors[set] = term;
         else if constexpr (before % 2 == 1)

@@ -1,14 +1,13 @@
 // Invert of orders 3 to 6. Members whose rows are adjacent in memory compute on packed rows, all others
 // element by element; the two classes differ in method and in what counts as singular, not only in rounding:
 //
-//   order   scalar                                packed 32f                         packed 64f
-//   3       adjugate; band on the determinant     adjugate; determinant == 0         adjugate; reciprocal ==
-//   0 4       adjugate; band on the determinant     adjugate; determinant == 0         adjugate; determinant
-//   == 0 5, 6    blocks of order n - 3 and 3 with      1 or 2 elements eliminated, the    blocks of order 2
-//   and n - 2; a
-//           a search for columns; bands on both   rest as order 4; a search if the   search if the first is
-//           in the determinants                          pivots are in the band             band, the second
-//           as order 3 or 4
+//   order   scalar                    packed 32f                  packed 64f
+//   3       adjugate; band on det     adjugate; det == 0          adjugate; 1 / det == 0
+//   4       adjugate; band on det     adjugate; det == 0          adjugate; det == 0
+//   5, 6    blocks n - 3 and 3, a     1 or 2 elements eliminated, blocks 2 and n - 2; a search
+//           search for columns;       the rest as order 4; a      if the first det is in the
+//           bands on both dets        search if pivots are in     band, the second as order
+//                                     the band                    3 or 4
 //
 // A NaN is in no band and equals no zero, so it goes through to the result with tenkOk.
 #pragma once

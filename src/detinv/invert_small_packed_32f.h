@@ -33,21 +33,19 @@ TENK_INLINE Quad refined3(float d)
     const Quad v = broadcast(d), x = _mm_rcp_ps(v);
     return (x + x) - ((v * x) * x);
 }
+TENK_INLINE Quad refined(Quad v)
+{
+    const Quad x = _mm_rcp_ps(v);
+    return (x + x) - (v * (x * x));
+}
 TENK_INLINE Quad refined(float d)
 {
-    const Quad v = broadcast(d), x = _mm_rcp_ps(v);
-    return (x + x) - (v * (x * x));
+    return refined(broadcast(d));
 }
 
 // ---------------------------------------------------------------------------------------------------------------
 // Order 4, as a block in registers
 // ---------------------------------------------------------------------------------------------------------------
-
-struct Block4
-{
-    Quad row[4];
-    Quad column[4];
-};
 
 // Lane j of the result is lane j ^ bits. Exchanges of this kind are even permutations of the columns, so a
 // cofactor comes out with its sign in every lane.
@@ -62,52 +60,55 @@ TENK_INLINE Quad exchangeLanes(Quad v)
 //     r1[1] (r2[2] r3[3] - r2[3] r3[2]) + r3[1] (r1[2] r2[3] - r1[3] r2[2]) - r2[1] (r1[2] r3[3] - r1[3]
 //     r3[2])
 // with the products multiplied out.
-struct Cofactors4
+TENK_INLINE void cofactorsOf(const Quad (&r)[4], Quad (&cofactors)[4])
+{
+    Quad next[4]; // r[1]
+    each<4>([&](auto i) TENK_LAMBDA { next[i] = exchangeLanes<1>(r[i]); });
+    struct Products
+    {
+        Quad plus, minus; // a[2] b[3] and a[3] b[2]
+    };
+    const auto products = [&](unsigned a, unsigned b) TENK_LAMBDA {
+        const Quad both = r[a] * next[b];
+        return Products{exchangeLanes<2>(both), exchangeLanes<3>(both)};
+    };
+    const Products p01 = products(0, 1), p02 = products(0, 2), p03 = products(0, 3);
+    const Products p12 = products(1, 2), p13 = products(1, 3), p23 = products(2, 3);
+    const auto triples = [&](unsigned i, const Products& p)
+                             TENK_LAMBDA { return next[i] * p.plus - next[i] * p.minus; };
+    cofactors[0] = (triples(1, p23) + triples(3, p12)) - triples(2, p13);
+    cofactors[1] = triples(2, p03) - (triples(0, p23) + triples(3, p02));
+    cofactors[2] = (triples(0, p13) + triples(3, p01)) - triples(1, p03);
+    cofactors[3] = triples(1, p02) - (triples(0, p12) + triples(2, p01));
+}
+
+TENK_INLINE void transpose(const Quad (&from)[4], Quad (&to)[4])
+{
+    Block<float, 4> block;
+    each<4>([&](auto i) TENK_LAMBDA { block.row[i].vector[0] = from[i]; });
+    const auto transposed = transpose(block);
+    each<4>([&](auto i) TENK_LAMBDA { to[i] = transposed.row[i].vector[0]; });
+}
+
+// What orders 5 and 6 are bordered around.
+struct Block4
 {
     Quad row[4];
-
-    TENK_INLINE explicit Cofactors4(const Quad (&r)[4])
-    {
-        Quad next[4]; // r[1]
-        each<4>([&](auto i) TENK_LAMBDA { next[i] = exchangeLanes<1>(r[i]); });
-        struct Products
-        {
-            Quad plus, minus; // a[2] b[3] and a[3] b[2]
-        };
-        const auto products = [&](unsigned a, unsigned b) TENK_LAMBDA {
-            const Quad both = r[a] * next[b];
-            return Products{exchangeLanes<2>(both), exchangeLanes<3>(both)};
-        };
-        const Products p01 = products(0, 1), p02 = products(0, 2), p03 = products(0, 3);
-        const Products p12 = products(1, 2), p13 = products(1, 3), p23 = products(2, 3);
-        const auto triples = [&](unsigned i, const Products& p)
-                                 TENK_LAMBDA { return next[i] * p.plus - next[i] * p.minus; };
-        row[0] = (triples(1, p23) + triples(3, p12)) - triples(2, p13);
-        row[1] = triples(2, p03) - (triples(0, p23) + triples(3, p02));
-        row[2] = (triples(0, p13) + triples(3, p01)) - triples(1, p03);
-        row[3] = triples(1, p02) - (triples(0, p12) + triples(2, p01));
-    }
-
-    TENK_INLINE float determinant(const Quad (&r)[4]) const
-    {
-        const auto product = [&](unsigned i) TENK_LAMBDA { return r[i][0] * row[i][0]; };
-        return (product(3) + product(1)) + (product(2) + product(0));
-    }
+    Quad column[4];
 };
 
 // Returns false, with no inverse, if the determinant is 0.
 TENK_INLINE bool invert4(const Quad (&r)[4], Block4& inverse)
 {
-    const Cofactors4 cofactors(r);
-    const float determinant = cofactors.determinant(r);
+    Quad cofactors[4];
+    cofactorsOf(r, cofactors);
+    const auto product = [&](unsigned i) TENK_LAMBDA { return r[i][0] * cofactors[i][0]; };
+    const float determinant = (product(3) + product(1)) + (product(2) + product(0));
     if (determinant == 0)
         return false;
     const Quad scale = refined(determinant);
-    Block<float, 4> scaled;
-    each<4>([&](auto i)
-                TENK_LAMBDA { scaled.row[i].vector[0] = inverse.column[i] = cofactors.row[i] * scale; });
-    const auto transposed = transpose(scaled);
-    each<4>([&](auto i) TENK_LAMBDA { inverse.row[i] = transposed.row[i].vector[0]; });
+    each<4>([&](auto i) TENK_LAMBDA { inverse.column[i] = cofactors[i] * scale; });
+    transpose(inverse.column, inverse.row);
     return true;
 }
 
@@ -291,12 +292,20 @@ struct Packed<float, 4>
 {
     TENK_INLINE static bool invert(const DenseView<float>& from, const DenseView<float>& to)
     {
-        Quad rows[4];
+        Quad rows[4], cofactors[4], adjugate[4];
         each<4>([&](auto i) TENK_LAMBDA { rows[i] = loadVector<float>(from.row(i)); });
-        Block4 inverse;
-        if (!invert4(rows, inverse))
+        cofactorsOf(rows, cofactors);
+        transpose(cofactors, adjugate);
+        // The determinant in every lane, with the products of column 0 in one vector.
+        const Quad column0 =
+            shuffle<0, 1, 4, 5>(shuffle<0, 4, 1, 5>(rows[0], rows[1]), shuffle<0, 4, 1, 5>(rows[2], rows[3]));
+        const Quad products = column0 * adjugate[0];
+        const Quad sums = products + exchangeLanes<2>(products);
+        const Quad determinant = exchangeLanes<1>(sums) + sums;
+        if (determinant[0] == 0)
             return false;
-        each<4>([&](auto i) TENK_LAMBDA { storeVector<float>(to.row(i), inverse.row[i]); });
+        const Quad scale = refined(determinant);
+        each<4>([&](auto i) TENK_LAMBDA { storeVector<float>(to.row(i), adjugate[i] * scale); });
         return true;
     }
 };

@@ -33,75 +33,101 @@ TENK_INLINE Row<double, n> operator*(double factor, const Row<double, n>& row)
 // Orders 3 and 4, as blocks in registers: the inverse takes the place of the block unless that is singular
 // ---------------------------------------------------------------------------------------------------------------
 
+// Row j of the adjugate is the cross product of the columns that come next: elements 0 and 1 of it in a pair.
+// The elements 2 of rows 0 and 1 are a pair of the cross product of rows 0 and 1 of the matrix.
 TENK_INLINE bool invertBlock(Block<double, 3>& a)
 {
-    Pair once[3], twice[3]; // elements 1 2 and 2 0 of the rows
-    each<3>([&](auto i) TENK_LAMBDA {
-        const Pair last{a.row[i].rest, a.row[i].rest};
-        once[i] = shuffle<1, 2>(a.row[i].vector[0], last);
-        twice[i] = shuffle<2, 0>(a.row[i].vector[0], last);
-    });
-    Block<double, 3> cofactors;
-    each<3>([&](auto i) TENK_LAMBDA {
-        constexpr unsigned j = (i + 1) % 3, k = (i + 2) % 3;
-        cofactors.row[i].vector[0] = once[j] * twice[k] - twice[j] * once[k];
-        cofactors.row[i].rest = a.row[j].vector[0][0] * a.row[k].vector[0][1] - //
-                                a.row[j].vector[0][1] * a.row[k].vector[0][0];
-    });
-    const auto product = [&](auto i)
-                             TENK_LAMBDA { return a.row[i].vector[0][0] * cofactors.row[i].vector[0][0]; };
-    const double reciprocal = 1 / ((product(index<0>) + product(index<2>)) + product(index<1>));
+    each<3>([&](auto i) TENK_LAMBDA { a.row[i].vector[0] = inRegister(a.row[i].vector[0]); });
+    const auto& r = a.row;
+    const auto lastOf = [&](unsigned i, unsigned j) TENK_LAMBDA { return Pair{r[i].rest, r[j].rest}; };
+    struct Column
+    {
+        Pair from1, from2; // elements 1 2, and 2 0
+    };
+    const Column columns[3] = {
+        {shuffle<0, 2>(r[1].vector[0], r[2].vector[0]), shuffle<0, 2>(r[2].vector[0], r[0].vector[0])},
+        {shuffle<1, 3>(r[1].vector[0], r[2].vector[0]), shuffle<1, 3>(r[2].vector[0], r[0].vector[0])},
+        {lastOf(1, 2), lastOf(2, 0)}};
+    const auto cross = [](const Column& u, const Column& v)
+                           TENK_LAMBDA { return u.from1 * v.from2 - v.from1 * u.from2; };
+    const Pair last0 = lastOf(0, 0), last1 = lastOf(1, 1);
+    const Column row0{shuffle<1, 2>(r[0].vector[0], last0), shuffle<0, 2>(last0, r[0].vector[0])};
+    const Column row1{shuffle<1, 2>(r[1].vector[0], last1), shuffle<0, 2>(last1, r[1].vector[0])};
+
+    const Pair adjugate0 = cross(columns[1], columns[2]), adjugate1 = cross(columns[2], columns[0]),
+               adjugate2 = cross(columns[0], columns[1]), ends = cross(row0, row1);
+    const double end2 = r[0].vector[0][0] * r[1].vector[0][1] - r[0].vector[0][1] * r[1].vector[0][0];
+
+    const double reciprocal = 1 / ((r[0].vector[0][0] * adjugate0[0] + r[2].vector[0][0] * ends[0]) +
+                                   r[1].vector[0][0] * adjugate0[1]);
     if (reciprocal == 0)
         return false;
-    each<3>([&](auto i) TENK_LAMBDA { cofactors.row[i] = reciprocal * cofactors.row[i]; });
-    a = transpose(cofactors);
+    const Pair scale = broadcast(reciprocal), scaledEnds = scale * ends;
+    a.row[0] = {{scale * adjugate0}, scaledEnds[0]};
+    a.row[1] = {{scale * adjugate1}, scaledEnds[1]};
+    a.row[2] = {{scale * adjugate2}, reciprocal * end2};
     return true;
 }
 
-// Lane j ^ bits for lane j of a row of four. The second bit exchanges the vectors, which costs nothing.
-template <unsigned bits>
-TENK_INLINE Row<double, 4> exchangeLanes(const Row<double, 4>& r)
+// Two rows of the adjugate of order 4, from 2 v on: the cofactors in vector v of each row, which take
+// products of two elements from the other vectors alone. Six products of three elements to a cofactor, as in
+// 32f; each pair of rows is done with before the next one is begun, which takes the fewest registers.
+template <std::size_t v>
+TENK_INLINE void adjugateRows(const Block<double, 4>& a, Block<double, 4>& adjugate)
 {
-    Row<double, 4> e;
-    each<2>([&](auto v) TENK_LAMBDA {
-        const Pair from = r.vector[v ^ (bits >> 1)];
-        e.vector[v] = (bits & 1) != 0 ? exchangePair(from) : from;
-    });
-    return e;
-}
-
-// Six products of three elements to a cofactor, as in 32f.
-TENK_INLINE bool invertBlock(Block<double, 4>& a)
-{
-    using Row4 = Row<double, 4>;
-    Row4 next[4];
-    each<4>([&](auto i) TENK_LAMBDA { next[i] = exchangeLanes<1>(a.row[i]); });
+    Pair next[4];
+    each<4>([&](auto i) TENK_LAMBDA { next[i] = exchangePair(a.row[i].vector[v]); });
     struct Products
     {
-        Row4 plus, minus;
+        Pair plus, minus;
     };
     const auto products = [&](unsigned i, unsigned j) TENK_LAMBDA {
-        const Row4 both = a.row[i] * next[j];
-        return Products{exchangeLanes<2>(both), exchangeLanes<3>(both)};
+        const Pair both = a.row[i].vector[1 - v] * exchangePair(a.row[j].vector[1 - v]);
+        return Products{both, exchangePair(both)};
     };
-    const Products p01 = products(0, 1), p02 = products(0, 2), p03 = products(0, 3);
-    const Products p12 = products(1, 2), p13 = products(1, 3), p23 = products(2, 3);
     const auto triples = [&](unsigned i, const Products& p)
                              TENK_LAMBDA { return next[i] * p.plus - next[i] * p.minus; };
-    Block<double, 4> cofactors;
-    cofactors.row[0] = (triples(1, p23) + triples(3, p12)) - triples(2, p13);
-    cofactors.row[1] = triples(2, p03) - (triples(0, p23) + triples(3, p02));
-    cofactors.row[2] = (triples(0, p13) + triples(3, p01)) - triples(1, p03);
-    cofactors.row[3] = triples(1, p02) - (triples(0, p12) + triples(2, p01));
+    Pair c[4];
+    const Products p23 = products(2, 3);
+    c[0] = triples(1, p23);
+    c[1] = triples(0, p23);
+    const Products p12 = products(1, 2);
+    c[0] = c[0] + triples(3, p12);
+    c[3] = triples(0, p12);
+    const Products p13 = products(1, 3);
+    c[0] = c[0] - triples(2, p13);
+    c[2] = triples(0, p13);
+    const Products p01 = products(0, 1);
+    c[2] = c[2] + triples(3, p01);
+    c[3] = c[3] + triples(2, p01);
+    const Products p02 = products(0, 2);
+    c[1] = c[1] + triples(3, p02);
+    c[3] = triples(1, p02) - c[3];
+    const Products p03 = products(0, 3);
+    c[1] = triples(2, p03) - c[1];
+    c[2] = c[2] - triples(1, p03);
+    adjugate.row[2 * v] = {{shuffle<0, 2>(c[0], c[1]), shuffle<0, 2>(c[2], c[3])}, {}};
+    adjugate.row[2 * v + 1] = {{shuffle<1, 3>(c[0], c[1]), shuffle<1, 3>(c[2], c[3])}, {}};
+}
 
-    const auto product = [&](unsigned i)
-                             TENK_LAMBDA { return a.row[i].vector[0][0] * cofactors.row[i].vector[0][0]; };
-    const double determinant = (product(0) + product(2)) + (product(1) + product(3));
-    if (determinant == 0)
+TENK_INLINE bool invertBlock(Block<double, 4>& a)
+{
+    each<4>([&](auto i) TENK_LAMBDA {
+        each<2>([&](auto v) TENK_LAMBDA { a.row[i].vector[v] = inRegister(a.row[i].vector[v]); });
+    });
+    Block<double, 4> adjugate;
+    adjugateRows<0>(a, adjugate);
+    // (a00 C00 + a20 C20) + (a10 C10 + a30 C30), in both lanes.
+    const auto& r = a.row;
+    const Pair terms = shuffle<0, 2>(r[0].vector[0], r[1].vector[0]) * adjugate.row[0].vector[0] +
+                       shuffle<0, 2>(r[2].vector[0], r[3].vector[0]) * adjugate.row[0].vector[1];
+    const Pair determinant = terms + exchangePair(terms);
+    if (determinant[0] == 0)
         return false;
-    const double reciprocal = 1 / determinant;
-    each<4>([&](auto i) TENK_LAMBDA { cofactors.row[i] = reciprocal * cofactors.row[i]; });
-    a = transpose(cofactors);
+    // Divided while the other rows are on their way.
+    const Pair reciprocal = inRegister(broadcast(1.0) / determinant);
+    adjugateRows<1>(a, adjugate);
+    a = Block<double, 4>::map([&](Pair x) TENK_LAMBDA { return reciprocal * x; }, adjugate);
     return true;
 }
 

@@ -103,6 +103,27 @@ TEST(Det, Of64fComparesWithAMaximumRoundedToBinary32)
     EXPECT_EQ(determinant<double>({b, 0x1p-52, a, 0}, 2), 0.0);
 }
 
+TEST(Det, Of64fRoundsEachWinnerOfTheSearch)
+{
+    // Below a 0, a wins as 1, which b beats: the last pivot is -f 2^-52 for an f above 1. With row 1 as the
+    // pivot it would be 2^-52, which is no pivot.
+    const double a = 1 + 0x1p-30, b = 1 + 0x1p-40;
+    const long double f = static_cast<long double>(a) * (1.0L / b);
+    const auto last = static_cast<double>(-f * 0x1p-52L);
+    EXPECT_EQ(determinant<double>({0, 1, 0, a, 0, 0, b, 0, 0x1p-52}, 3), b * last);
+    EXPECT_NE(last, -0x1p-52);
+}
+
+TEST(Det, KeepsTheEarliestOfEqualPivots)
+{
+    // 1 - 2^25 rounds to -2^25 in binary32, so that rows 1 and 2 become equal below row 0. Below row 2 they
+    // would not.
+    EXPECT_EQ(determinant<float>({1, 0x1p25, 0x1p10, 1, 1, 0, 1, 0, 0}, 3), 0.0F);
+    EXPECT_EQ(determinant<double>({1, 0x1p54, 0x1p10, 1, 1, 0, 1, 0, 0}, 3), 0.0);
+    EXPECT_NE(determinant<float>({1, 0, 0, 1, 1, 0, 1, 0x1p25, 0x1p10}, 3), 0.0F);
+    EXPECT_NE(determinant<double>({1, 0, 0, 1, 1, 0, 1, 0x1p54, 0x1p10}, 3), 0.0);
+}
+
 TEST(Det, Of64fKeepsAPivotWhoseMagnitudeRoundsToInfinity)
 {
     // The last pivot is -10 x 2^-52 with row 0 as the pivot, 2^-52 with row 1.

@@ -163,6 +163,11 @@ TEST(InvertSmall, OfPacked32fInvertsWhatIsNotExactlySingular)
     EXPECT_EQ(r.status, tenkOk);
     EXPECT_NEAR(r.at(3, 1, 1), 1000, 1e-3);
     expectSingular<float>(Class::scalar, small);
+    const std::vector<float> elements(small.begin(), small.end()); // general order goes by the pivots
+    float inverse[9];
+    char buffer[9 * 4 + 3 * 4];
+    EXPECT_EQ(tenkInvert_m_32f(elements.data(), 12, 3, buffer, inverse, 12), tenkOk);
+    EXPECT_NEAR(inverse[4], 1000, 1e-3);
     expectSingular<float>(Class::packed, Matrix(9, 0));
     expectSingular<float>(Class::packed, diagonal({1, 2, 0}));
     expectRegular<float>(Class::packed, diagonal({1, 1, 1, 1e-30}));
@@ -322,6 +327,42 @@ TEST(InvertSmall, OfOrder3SumsTheDeterminantInTheOrderOfTheMember)
             EXPECT_EQ(std::isfinite(r.inverse[0]), one == 1) << m.name<double>(3) << one;
         });
     }
+}
+
+// Column 0 holds these numbers and all its cofactors are -1.
+Matrix withColumn0(double x0, double x1, double x2, double x3)
+{
+    return {x0, 1, 0, 0, x1, -1, 1, 0, x2, 0, -1, 1, x3, 0, 0, -1};
+}
+
+TEST(InvertSmall, OfOrder4SumsTheDeterminantInTheOrderOfTheClass)
+{
+    const double f = 0x1p30, d = 0x1p60;
+    expectRegular<float>(Class::scalar, withColumn0(1, f, -f, 0)); // row 0 comes last
+    expectRegular<double>(Class::scalar, withColumn0(1, d, -d, 0));
+    expectSingular<float>(Class::scalar, withColumn0(-f, f, 0, 1));
+    expectSingular<double>(Class::scalar, withColumn0(-d, d, 0, 1));
+    expectRegular<float>(Class::packed, withColumn0(0, -f, 1, f)); // rows 1 and 3, rows 0 and 2
+    expectRegular<double>(Class::packed, withColumn0(0, -d, 1, d));
+    expectSingular<float>(Class::packed, withColumn0(f, -f, 1, 0));
+    expectSingular<double>(Class::packed, withColumn0(d, -d, 1, 0));
+}
+
+TEST(InvertSmall, OfScalarOrders5And6AddsColumn1OfTheSecondBlockLast)
+{
+    for (const std::size_t n : {5U, 6U})
+        for (std::size_t one = 0; one < 3; ++one) {
+            Matrix a = diagonal(Matrix(n, 1));
+            const std::size_t p = n - 3;
+            for (std::size_t j = 0; j < 3; ++j)
+                a[p * n + p + j] = j == one ? 1 : j == (one == 0 ? 1 : 0) ? -0x1p60 : 0x1p60;
+            a[(p + 1) * n + p] = 1, a[(p + 1) * n + p + 1] = -1;
+            a[(p + 2) * n + p + 1] = 1, a[(p + 2) * n + p + 2] = -1;
+            if (one == 1)
+                expectRegular<double>(Class::scalar, a);
+            else
+                expectSingular<double>(Class::scalar, a);
+        }
 }
 
 // Objects without gaps between their rows, from one to the next and in place, are a case of their own.
