@@ -250,9 +250,8 @@ TENK_INLINE auto twoRows(const Seen<V, true>& from, Index<s>)
             row[1].vector[v] = shuffle<1, 3>(upper, lower);
         });
         if constexpr (n % 2 == 1) {
-            const auto last = loadVector<double>(part(n - 1));
-            row[0].rest = last[0];
-            row[1].rest = last[1];
+            row[0].rest = load<double>(part(n - 1));
+            row[1].rest = load<double>(part(n - 1) + 8);
         }
         return two;
     } else {
