@@ -34,7 +34,7 @@ TENK_INLINE tenkStatus scaleTurned(F f, const Source<m>& src, const Destination<
 template <Member m>
 TENK_INLINE auto productWith(Element<m> c)
 {
-    return [c](auto x) TENK_LAMBDA { return x * c; };
+    return [c = Constant(c)](auto x) TENK_LAMBDA { return x * c.like(x); };
 }
 
 template <Member m>

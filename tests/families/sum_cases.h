@@ -188,6 +188,25 @@ inline void testsTables(const Sum& f)
             }
             EXPECT_EQ(d, std::vector<float>(9, 9));
 
+            for (const int count : {0, 1}) {
+                const tenkStatus s = status(f.name("vac_32f_P"), t[0], 0, 100.F, t[2], 0, 9, count);
+                EXPECT_EQ(s, operand == 1 ? tenkOk : tenkNullPointerError);
+            }
+            if (operand == 1)
+                std::fill(d.begin(), d.end(), 9.0F);
+            EXPECT_EQ(d, std::vector<float>(9, 9));
+
+            for (const bool constant : {false, true}) {
+                if (constant && operand == 1)
+                    continue;
+                EXPECT_EQ(constant ? status(f.name("vc_32f_P"), t[0], 0, 100.F, t[2], 0, 9)
+                                   : status(f.name("vv_32f_P"), t[0], 0, t[1], 0, t[2], 0, 9),
+                          tenkNullPointerError);
+                for (std::size_t e = 0; e < 9; ++e)
+                    EXPECT_EQ(d[e], e < bad ? f(a[e], constant ? 100.F : b[e]) : 9.F);
+                std::fill(d.begin(), d.end(), 9.0F);
+            }
+
             for (const bool fixed : {false, true}) {
                 std::fill(d.begin(), d.end(), 9.0F);
                 const tenkStatus s = fixed ? status(f.name("mm_32f_3x3_P"), t[0], 0, t[1], 0, t[2], 0)
