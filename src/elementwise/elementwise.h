@@ -168,6 +168,14 @@ struct GaplessView
     TENK_INLINE Address row(std::size_t i) const { return start + i * n * sizeof(T); }
 };
 
+// The start of an object, added up once: i386 has no registers for a sum that is formed anew at each access.
+TENK_INLINE Address inOneRegister(Address start)
+{
+    if constexpr (sizeof(Address) == 4)
+        asm("" : "+r"(start));
+    return start;
+}
+
 // Rows from row `first` on of a source in registers, in the order of the formula unless `isTurned`.
 template <typename T, unsigned rows, unsigned columns, bool isTurned = false, unsigned first = 0>
 struct Held
@@ -181,7 +189,10 @@ struct Held
 template <typename R, typename V>
 TENK_INLINE auto vectorOf(const Seen<V, false>& from, std::size_t i, std::size_t v)
 {
-    return loadVector<typename R::Value>(from.view.row(i) + v * 16);
+    if constexpr (requires { requires V::aligned; })
+        return loadAligned<typename R::Value>(from.view.row(i) + v * 16);
+    else
+        return loadVector<typename R::Value>(from.view.row(i) + v * 16);
 }
 template <typename R, typename T, unsigned rows, unsigned columns, unsigned first, std::size_t i,
           std::size_t v>
@@ -250,9 +261,8 @@ TENK_INLINE auto twoRows(const Seen<V, true>& from, Index<s>)
             row[1].vector[v] = shuffle<1, 3>(upper, lower);
         });
         if constexpr (n % 2 == 1) {
-            const auto last = loadVector<double>(part(n - 1));
-            row[0].rest = last[0];
-            row[1].rest = last[1];
+            row[0].rest = load<double>(part(n - 1));
+            row[1].rest = load<double>(part(n - 1) + 8);
         }
         return two;
     } else {
@@ -276,26 +286,21 @@ TENK_INLINE auto allRows(const From& from)
         return from;
 }
 
-// An object of 3 x 3 without gaps, as a run, or two of them.
+// An object of 3 x 3 without gaps, or two of them, as a run: a transposed one is turned in registers.
 template <typename R, typename V, bool turned>
-TENK_INLINE R runOf(const Seen<V, turned>& from)
+TENK_INLINE auto runOf(const Seen<V, turned>& from)
 {
-    R run;
-    if constexpr (V::aligned)
-        each<R::full>([&](auto v) TENK_LAMBDA {
-            run.vector[v] = loadAligned<typename R::Value>(from.view.row(0) + v * 16);
-        });
-    else
-        run = R::load(from.view.row(0));
+    using T = typename R::Value;
+    constexpr unsigned n = R::full * lanes<T> + R::left;
     if constexpr (turned)
-        return transposed(run);
+        return Held<T, 1, n>{{transposed(R::load(from.view.row(0)))}};
     else
-        return run;
+        return from;
 }
 template <typename R, typename T, unsigned columns>
-TENK_INLINE R runOf(const Held<T, 1, columns>& from)
+TENK_INLINE const auto& runOf(const Held<T, 1, columns>& from)
 {
-    return from.block.row[0];
+    return from;
 }
 
 // If all sources are transposed, the result is turned instead of them.
@@ -309,7 +314,8 @@ TENK_INLINE void packedObject(F f, const To& to, const From&... from)
     if constexpr (!(From::turned || ...)) {
         each<rows>([&](auto i) TENK_LAMBDA { stream(i, from...); });
     } else if constexpr (rows == 1) {
-        R::map(f, runOf<R>(from)...).store(to.row(0));
+        const auto run = [&](const auto&... source) TENK_LAMBDA { stream(index<0>, source...); };
+        run(runOf<R>(from)...);
     } else if constexpr ((From::turned && ...)) {
         transpose(B::map(f, storedBlock<B>(from)...)).store(to);
     } else if constexpr (m.type == Type::f64) {
@@ -356,7 +362,7 @@ TENK_INLINE auto packedSource(const S& src, std::size_t k)
     const auto object = seen(src, k, columns, columns);
     if constexpr (noGaps) {
         using View = GaplessView<typename S::Value, columns>;
-        return Seen<View, S::transposed>{View{object.view.start}};
+        return Seen<View, S::transposed>{View{inOneRegister(object.view.start)}};
     } else {
         return object;
     }

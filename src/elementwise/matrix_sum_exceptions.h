@@ -10,60 +10,37 @@ namespace tenk {
 // written, without a look at `count`: none counts as one. Lists are tested as far ahead: first entry 0 of the
 // source and the last one of the destination (the entry before the list, if `count` is 0), then entry k of
 // the source together with k - 1 of the destination.
-consteval bool runsAhead(Member m)
-{
-    return m == "tenkAdd_mam_32f_3x3" || m == "tenkAdd_mam_32f_3x3_L" || m == "tenkSub_mam_32f_3x3" ||
-           m == "tenkSub_mam_32f_3x3_L" || m == "tenkAdd_mamT_32f_3x3" || m == "tenkAdd_mamT_32f_3x3_L" ||
-           m == "tenkSub_mamT_32f_3x3" || m == "tenkSub_mamT_32f_3x3_L";
-}
+inline constexpr auto runsAhead =
+    oneOf("tenkAdd_mam_32f_3x3", "tenkAdd_mam_32f_3x3_L", "tenkSub_mam_32f_3x3", "tenkSub_mam_32f_3x3_L",
+          "tenkAdd_mamT_32f_3x3", "tenkAdd_mamT_32f_3x3_L", "tenkSub_mamT_32f_3x3", "tenkSub_mamT_32f_3x3_L");
 
 // The rows of src2 are as far apart as those of src1; src2Stride1 is not used.
-consteval bool stepsRowsOfSrc2BySrc1(Member m)
-{
-    return m == "tenkAdd_mamT_32f_3x3" || m == "tenkAdd_mamT_32f_3x3_L" || m == "tenkSub_mamT_32f_3x3" ||
-           m == "tenkSub_mamT_32f_3x3_L";
-}
+inline constexpr auto stepsRowsOfSrc2BySrc1 =
+    oneOf("tenkAdd_mamT_32f_3x3", "tenkAdd_mamT_32f_3x3_L", "tenkSub_mamT_32f_3x3", "tenkSub_mamT_32f_3x3_L");
 
 // The elements of src2 are as far apart as those of src1; src2Stride2 is not used.
-consteval bool stepsElementsOfSrc2BySrc1(Member m)
-{
-    return m == "tenkSub_mTm_64f_6x6_S2";
-}
+inline constexpr auto stepsElementsOfSrc2BySrc1 = oneOf("tenkSub_mTm_64f_6x6_S2");
 
 // The last column of src1 is read in steps of src2Stride1: a(i, 4) is 32 bytes behind the start of the object
 // and i of these steps.
-consteval bool stepsLastColumnBySrc2(Member m)
-{
-    return m == "tenkAdd_mam_64f_5x5" || m == "tenkAdd_mam_64f_5x5_L" || m == "tenkSub_mam_64f_5x5" ||
-           m == "tenkSub_mam_64f_5x5_L" || m == "tenkAdd_mama_64f_5x5" || m == "tenkAdd_mama_64f_5x5_L" ||
-           m == "tenkSub_mama_64f_5x5" || m == "tenkSub_mama_64f_5x5_L";
-}
+inline constexpr auto stepsLastColumnBySrc2 =
+    oneOf("tenkAdd_mam_64f_5x5", "tenkAdd_mam_64f_5x5_L", "tenkSub_mam_64f_5x5", "tenkSub_mam_64f_5x5_L",
+          "tenkAdd_mama_64f_5x5", "tenkAdd_mama_64f_5x5_L", "tenkSub_mama_64f_5x5", "tenkSub_mama_64f_5x5_L");
 
 // Row 3 of the result is row 2 once more.
-consteval bool row3RepeatsRow2(Member m)
-{
-    return m == "tenkSub_mTmT_32f_6x6";
-}
+inline constexpr auto row3RepeatsRow2 = oneOf("tenkSub_mTmT_32f_6x6");
 
 // Elements of the result are the differences at other places of the sources; rowColumn() has them.
-consteval bool scattersElements(Member m)
-{
-    return m == "tenkSub_maTmaT_32f_6x6" || m == "tenkSub_maTmaT_32f_6x6_L";
-}
+inline constexpr auto scattersElements = oneOf("tenkSub_maTmaT_32f_6x6", "tenkSub_maTmaT_32f_6x6_L");
 
 // An aligned object has the operands of its last element exchanged: dst(2, 2) = b(2, 2) - a(2, 2).
-consteval bool exchangesLastIfAligned(Member m)
-{
-    return m == "tenkSub_mTma_64f_3x3" || m == "tenkSub_mTma_64f_3x3_L";
-}
+inline constexpr auto exchangesLastIfAligned = oneOf("tenkSub_mTma_64f_3x3", "tenkSub_mTma_64f_3x3_L");
 
 // The single operand is arranged for aligned objects if it is aligned itself, else for others. An object of
 // the other sort finds its elements at the wrong places; mixedPlaces() has them.
-consteval bool mixesAlignments(Member m)
-{
-    return m == "tenkAdd_mam_64f_3x3_L" || m == "tenkSub_mam_64f_3x3_L" || m == "tenkSub_mma_64f_3x3_L" ||
-           m == "tenkAdd_mamT_64f_3x3_L" || m == "tenkSub_mamT_64f_3x3_L" || m == "tenkSub_mTma_64f_3x3_L";
-}
+inline constexpr auto mixesAlignments =
+    oneOf("tenkAdd_mam_64f_3x3_L", "tenkSub_mam_64f_3x3_L", "tenkSub_mma_64f_3x3_L", "tenkAdd_mamT_64f_3x3_L",
+          "tenkSub_mamT_64f_3x3_L", "tenkSub_mTma_64f_3x3_L");
 
 consteval bool permutes(Member m)
 {

@@ -26,11 +26,11 @@ template <Member m>
 TENK_INLINE auto sumWith(Element<m> c)
 {
     if constexpr (m.operand[0].kind == 'c')
-        return [c](auto x) TENK_LAMBDA { return c - x; };
+        return [c = Constant(c)](auto x) TENK_LAMBDA { return c.like(x) - x; };
     else if constexpr (m.root == Root::Add)
-        return [c](auto x) TENK_LAMBDA { return x + c; };
+        return [c = Constant(c)](auto x) TENK_LAMBDA { return x + c.like(x); };
     else
-        return [c](auto x) TENK_LAMBDA { return x - c; };
+        return [c = Constant(c)](auto x) TENK_LAMBDA { return x - c.like(x); };
 }
 
 template <Member m>

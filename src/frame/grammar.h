@@ -489,4 +489,26 @@ consteval Member::Member(const char (&name)[N])
         thisNameIsNotInTheGrammar();
 }
 
+// Tells some members from all others: inline constexpr auto standsApart = oneOf("tenkTrace_m_32f", ...). The names are
+// read once, not for every member that is asked about.
+template <std::size_t n>
+struct OneOf
+{
+    std::array<Member, n> members;
+
+    consteval bool operator()(const Member& m) const
+    {
+        for (const Member& one : members)
+            if (one == m)
+                return true;
+        return false;
+    }
+};
+
+template <std::size_t... lengths>
+consteval OneOf<sizeof...(lengths)> oneOf(const char (&... names)[lengths])
+{
+    return {{Member(names)...}};
+}
+
 } // namespace tenk

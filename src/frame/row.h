@@ -76,7 +76,8 @@ TENK_INLINE void storeVector(Address a, Vector<T> v)
     store(a, v);
 }
 
-// A vector that stays in its register: the compiler would load half of it once more wherever a shuffle takes a half.
+// A vector that stays in its register: the compiler would load half of it once more wherever a shuffle takes
+// a half.
 template <typename V>
 TENK_INLINE V inRegister(V v)
 {
@@ -92,6 +93,19 @@ TENK_INLINE Vector<T> broadcast(T x)
     else
         return Vector<T>{x, x};
 }
+
+// A constant that meets elements and vectors of them. The vector is made once; left to itself, the compiler
+// repeats the constant at each use.
+template <typename T>
+struct Constant
+{
+    T element;
+    Vector<T> vector;
+
+    TENK_INLINE Constant(T x) : element(x), vector(inRegister(broadcast(x))) {}
+    TENK_INLINE T like(T) const { return element; }
+    TENK_INLINE Vector<T> like(Vector<T>) const { return vector; }
+};
 
 // The halves of a quad: 8 bytes each, at any address.
 TENK_INLINE Vector<float> loadHalves(Address low, Address high)
@@ -392,9 +406,9 @@ TENK_INLINE Row<double, 18> transposed(const Row<double, 18>& r)
     // a00 a01 | a02 a10 | a11 a12 | a20 a21 | a22 b00 | b01 b02 | b10 b11 | b12 b20 | b21 b22
     Vector<double> v[9];
     each<9>([&](auto e) TENK_LAMBDA { v[e] = inRegister(r.vector[e]); });
-    return {{shuffle<0, 3>(v[0], v[1]), shuffle<0, 3>(v[3], v[0]), shuffle<0, 3>(v[2], v[3]), shuffle<0, 3>(v[1], v[2]),
-             v[4], shuffle<0, 3>(v[6], v[7]), shuffle<0, 3>(v[5], v[6]), shuffle<0, 3>(v[8], v[5]),
-             shuffle<0, 3>(v[7], v[8])},
+    return {{shuffle<0, 3>(v[0], v[1]), shuffle<0, 3>(v[3], v[0]), shuffle<0, 3>(v[2], v[3]),
+             shuffle<0, 3>(v[1], v[2]), v[4], shuffle<0, 3>(v[6], v[7]), shuffle<0, 3>(v[5], v[6]),
+             shuffle<0, 3>(v[8], v[5]), shuffle<0, 3>(v[7], v[8])},
             {}};
 }
 

@@ -30,6 +30,42 @@ consteval bool turnsRows(Member m)
     return isDense(m.layout) && !m.general();
 }
 
+// Rows of n elements without gaps between them: the compiler knows all distances.
+template <typename T, unsigned n>
+struct GaplessRows
+{
+    Address start;
+
+    TENK_INLINE Address row(std::size_t i) const { return start + i * n * sizeof(T); }
+};
+
+template <typename T, unsigned n, typename From, typename To>
+TENK_INLINE void transposeRows(const From& from, const To& to)
+{
+    constexpr unsigned pairs = n / 2;
+    if constexpr (sizeof(T) == 4 || n == 3) {
+        transpose(Block<T, n>::load(from)).store(to);
+    } else {
+        // A whole object would not fit the registers of i386: two rows of the result at a time.
+        const auto element = [&](std::size_t i, std::size_t j)
+                                 TENK_LAMBDA { return from.row(i) + j * sizeof(T); };
+        each<pairs>([&](auto s) TENK_LAMBDA {
+            each<pairs>([&](auto v) TENK_LAMBDA {
+                const auto upper = inRegister(loadVector<T>(element(2 * v, 2 * s)));
+                const auto lower = inRegister(loadVector<T>(element(2 * v + 1, 2 * s)));
+                storeVector<T>(to.row(2 * s) + v * 16, shuffle<0, 2>(upper, lower));
+                storeVector<T>(to.row(2 * s + 1) + v * 16, shuffle<1, 3>(upper, lower));
+            });
+            if constexpr (n % 2 == 1) {
+                move<T>(to.row(2 * s) + pairs * 16, element(n - 1, 2 * s));
+                move<T>(to.row(2 * s + 1) + pairs * 16, element(n - 1, 2 * s + 1));
+            }
+        });
+        if constexpr (n % 2 == 1)
+            each<n>([&](auto j) TENK_LAMBDA { move<T>(to.row(n - 1) + j * sizeof(T), element(j, n - 1)); });
+    }
+}
+
 template <Member m>
 TENK_INLINE tenkStatus transpose(Source<m> src, Size<m> width, Size<m> height, Destination<m> dst,
                                  Count<m> count)
@@ -45,18 +81,21 @@ TENK_INLINE tenkStatus transpose(Source<m> src, Size<m> width, Size<m> height, D
             if (src.nullEntry(e) || dst.nullEntry(e))
                 return tenkNullPointerError;
 
-    const bool noGaps =
-        turnsRows(m) && m.size == 3 && src.stride1 == 3 * sizeof(T) && dst.stride1 == 3 * sizeof(T);
+    const Displacement row = m.size * sizeof(T);
+    const bool noGaps = turnsRows(m) && src.stride1 == row && dst.stride1 == row;
     for (std::size_t k = 0; k < count; ++k) {
         if (anyNullObject(k, src, dst))
             return tenkNullPointerError;
         const auto from = src.object(k, sourceRowLength<m>(width, height));
         const auto to = dst.object(k, destinationRowLength<m>(width, height));
         if constexpr (turnsRows(m)) {
-            if (noGaps)
+            using Rows = GaplessRows<T, m.size>;
+            if (!noGaps)
+                transposeRows<T, m.size>(from, to);
+            else if constexpr (m.size == 3)
                 transposed(Row<T, 9>::load(from.start)).store(to.start);
             else
-                transpose(Block<T, m.size>::load(from)).store(to);
+                transposeRows<T, m.size>(Rows{from.start}, Rows{to.start});
         } else {
             for (std::size_t i = 0; i < height; ++i)
                 for (std::size_t j = 0; j < width; ++j) {

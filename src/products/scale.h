@@ -3,6 +3,7 @@
 #pragma once
 
 #include "elementwise/elementwise.h"
+#include "frame/side_by_side.h"
 
 namespace tenk {
 
@@ -13,42 +14,19 @@ consteval bool transposesInPlace(Member m)
     return isDense(m.layout) && m.size == 4;
 }
 
-// Where objects that are alike overlap: the bytes from the lowest to the highest of an object's elements,
-// from its start.
-template <unsigned n, typename T>
-struct ObjectSpan
-{
-    Displacement low, high;
-
-    TENK_INLINE ObjectSpan(Displacement rowStep)
-        : low(rowStep < 0 ? (n - 1) * rowStep : 0),
-          high((rowStep < 0 ? 0 : (n - 1) * rowStep) + n * sizeof(T))
-    {
-    }
-};
-
 template <Member m, typename F>
 TENK_INLINE tenkStatus scaleTurned(F f, const Source<m>& src, const Destination<m>& dst, std::size_t count)
 {
     constexpr unsigned n = m.size;
-    using T = Element<m>;
-    const ObjectSpan<n, T> read(src.stride1), written(dst.stride1);
     for (std::size_t k = 0; k < count; ++k) {
         if (anyNullObject(k, src, dst))
             return tenkNullPointerError;
         const auto from = seen(src, k, n, n);
         const auto to = dst.object(k, n);
-        const bool overlap =
-            static_cast<Displacement>(
-                to.start -
-                from.view
-                    .start)<read.high - written.low&& static_cast<Displacement>(to.start - from.view.start)>
-                read.low -
-            written.high;
-        if (overlap)
-            plainObject<m>(f, n, n, to, from);
-        else
+        if (apart(bytesOf(to, n, n), bytesOf(from.view, n, n)))
             packedObject<m, n, n>(f, to, from);
+        else
+            plainObject<m>(f, n, n, to, from);
     }
     return tenkOk;
 }
@@ -56,7 +34,7 @@ TENK_INLINE tenkStatus scaleTurned(F f, const Source<m>& src, const Destination<
 template <Member m>
 TENK_INLINE auto productWith(Element<m> c)
 {
-    return [c](auto x) TENK_LAMBDA { return x * c; };
+    return [c = Constant(c)](auto x) TENK_LAMBDA { return x * c.like(x); };
 }
 
 template <Member m>

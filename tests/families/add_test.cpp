@@ -7,14 +7,25 @@ using namespace elementwise;
 
 const Sum add{"Add", 1};
 
+const std::vector<std::string> codes = {"vv",    "vav",  "vava",  "vc",    "vac",   "mm",
+                                        "mTm",   "mmT",  "mTmT",  "mam",   "maTm",  "mamT",
+                                        "maTmT", "mama", "maTma", "mamaT", "maTmaT"};
+
+// Members that take a step of one source for another's need sources of the same gaps.
+const LeftOut leftOut = {.always = {"mam_64f_3x3_L", "mamT_64f_3x3_L"},
+                         .withDifferentGaps = {"mamT_32f_3x3", "mamT_32f_3x3_L", "mam_64f_5x5",
+                                               "mam_64f_5x5_L", "mama_64f_5x5", "mama_64f_5x5_L"}};
+
 TEST(Add, IsTheFormulaInAllLayoutsAndSizes)
 {
     expectFormulaEverywhere(
-        "Add",
-        {"vv", "vav", "vava", "vc", "vac", "mm", "mTm", "mmT", "mTmT", "mam", "maTm", "mamT", "maTmT", "mama",
-         "maTma", "mamaT", "maTmaT"},
-        [](float a, float b) { return a + b; }, [](double a, double b) { return a + b; },
-        [](const std::string& name) { return name == "mam_64f_3x3_L" || name == "mamT_64f_3x3_L"; });
+        "Add", codes, [](float a, float b) { return a + b; }, [](double a, double b) { return a + b; },
+        leftOut);
+}
+TEST(Add, TestsListsObjectByObjectInAllSizes)
+{
+    testsListsObjectByObjectEverywhere(
+        "Add", codes, {.always = {"mam_32f_3x3_L", "mamT_32f_3x3_L"}, .withDifferentGaps = {}});
 }
 
 TEST(Add, OfAThousandElementsDoesNotShowItsVectors)
@@ -84,6 +95,14 @@ TEST(Add, WorksInPlace)
 TEST(Add, KeepsTheSingleOperandInFixedSizesAlone)
 {
     keepsTheSingleOperandInFixedSizesAlone(add);
+}
+TEST(Add, KeepsTheSingleMatrixInFixedSizesAlone32f)
+{
+    keepsTheSingleMatrixInFixedSizesAlone<float>(add);
+}
+TEST(Add, KeepsTheSingleMatrixInFixedSizesAlone64f)
+{
+    keepsTheSingleMatrixInFixedSizesAlone<double>(add);
 }
 TEST(Add, RaisesNothingOfItsOwn32f)
 {

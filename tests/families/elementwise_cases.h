@@ -1,6 +1,7 @@
 // Calls of element-wise functions by name, operands in all layouts, and the plain formula beside them.
 #pragma once
 
+#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <cstring>
@@ -87,8 +88,11 @@ private:
     std::size_t n_;
 };
 
-// `count` objects of rows x columns elements in a layout, with so many elements between rows, and their
-// arguments.
+// What is between rows and between objects: a number of elements between rows and half as many between
+// objects, or elements between objects alone.
+constexpr unsigned betweenObjectsAlone = 3;
+
+// `count` objects of rows x columns elements in a layout, with such gaps, and their arguments.
 template <typename T>
 class Objects
 {
@@ -100,18 +104,19 @@ public:
         unsigned rows, columns, count;
     };
 
-    Objects(Shape s, const std::string& layout, unsigned gap)
-        : shape_(s), layout_(layout), values_(4000, T(7))
+    // From an address that is a multiple of 16 on, or `first` elements behind one.
+    Objects(Shape s, const std::string& layout, unsigned gap, unsigned first = 0)
+        : shape_(s), layout_(layout), values_(4000, T(7)), first_(first)
     {
         const bool steps = layout == "_S2" || layout == "_LS2" || layout == "_PS2";
         stride2_ = steps ? 2 : 1;
-        stride1_ = (s.columns + gap) * stride2_;
+        stride1_ = (s.columns + (gap == betweenObjectsAlone ? 0 : gap)) * stride2_;
         stride0_ =
             isTable() ? stride2_ : s.rows * (s.kind == 'm' ? stride1_ : s.columns * stride2_ + gap) + gap / 2;
         for (unsigned e = 0; isTable() && e < s.rows * s.columns; ++e)
-            pointers_.push_back(values_.begin() + e * (s.count * stride2_ + gap));
+            pointers_.push_back(origin() + e * (s.count * stride2_ + gap));
         for (unsigned k = 0; isList() && k < s.count; ++k)
-            pointers_.push_back(values_.begin() + k * stride0_);
+            pointers_.push_back(origin() + k * stride0_);
     }
 
     T& at(unsigned k, unsigned i, unsigned j)
@@ -119,13 +124,13 @@ public:
         k = shape_.array ? k : 0;
         if (isTable())
             return *(pointers_[i * shape_.columns + j] + k * stride0_);
-        return values_[k * stride0_ + i * stride1_ + j * stride2_];
+        return origin()[k * stride0_ + i * stride1_ + j * stride2_];
     }
 
     void pass(std::vector<Argument>& a)
     {
         const unsigned size = sizeof(T);
-        a.push_back(pointers_.empty() ? argument(values_.begin()) : argument(pointers_.data()));
+        a.push_back(pointers_.empty() ? argument(origin()) : argument(pointers_.data()));
         if (!pointers_.empty())
             a.push_back(argument(0U));
         if (shape_.array && !isList() && layout_ != "_P")
@@ -151,7 +156,16 @@ public:
     }
     std::vector<T> all() { return values_.all(); }
 
+    // Makes entry k of the list null; only lists have one.
+    bool loseObject(unsigned k)
+    {
+        if (isList())
+            pointers_[k] = nullptr;
+        return isList();
+    }
+
 private:
+    T* origin() { return values_.begin() + first_; }
     bool isTable() const { return layout_ == "_P" || layout_ == "_PS2"; }
     bool isList() const { return shape_.array && (layout_ == "_L" || layout_ == "_LS2"); }
 
@@ -159,103 +173,215 @@ private:
     std::string layout_;
     AlignedRun<T> values_;
     std::vector<T*> pointers_;
-    unsigned stride0_, stride1_, stride2_;
+    unsigned first_, stride0_, stride1_, stride2_;
 };
 
-// Calls one function and compares all of the destination with the formula. `code` is that of the name:
-// matrices, vectors and at most one constant.
-template <typename T>
-void expectFormula(const std::string& root, const std::string& code, unsigned fixed,
-                   const std::string& layout, unsigned gap, unsigned width, unsigned height, unsigned count,
-                   const std::function<T(T, T)>& f)
+// The gaps of the destination and of the sources, and which of them begin an element behind a multiple of 16:
+// bit 0 is the destination, bits 1 and 2 are the sources.
+struct Gaps
 {
+    unsigned dst, src[2], odd = 0;
+};
+
+// One call of the member of a code, matrices or vectors and at most one constant, with operands of its own.
+template <typename T>
+class Call
+{
+public:
+    struct Shape
+    {
+        unsigned fixed, width, height, count; // `fixed` is 0 for a general member
+    };
+    static constexpr T value = T(0.3);
+
+    Call(const std::string& root, const std::string& code, const std::string& layout, Shape s, Gaps gaps)
+        : shape_(s), batch_(code.find('a') != code.npos), vectors_(code.find('v') != code.npos)
+    {
+        for (const char c : code) {
+            if (c == 'a')
+                sources_.back().array = true;
+            else if (c == 'T')
+                sources_.back().turned = true;
+            else
+                sources_.push_back({.constant = c == 'c'});
+        }
+        const char kind = vectors_ ? 'v' : 'm';
+        for (const Source& source : sources_)
+            if (!source.constant) {
+                src.emplace_back(typename Objects<T>::Shape{kind, source.array,
+                                                            source.turned ? s.width : s.height,
+                                                            source.turned ? s.height : s.width, s.count},
+                                 layout, gaps.src[src.size()], gaps.odd >> (src.size() + 1) & 1);
+                src.back().randomise(static_cast<unsigned>(src.size()));
+            }
+        for (int copy = 0; copy < 2; ++copy)
+            dst.emplace_back(typename Objects<T>::Shape{kind, batch_, s.height, s.width, s.count}, layout,
+                             gaps.dst, gaps.odd & 1);
+        const std::string order = std::to_string(s.fixed);
+        const std::string size = s.fixed == 0 ? "" : "_" + order + "x" + (vectors_ ? "1" : order);
+        name_ = "tenk" + root + "_" + code + "_" + typeName<T>() + size + layout;
+    }
+
+    const std::string& name() const { return name_; }
+
+    // With the first or the second destination.
+    tenkStatus run(unsigned count, unsigned destination = 0)
+    {
+        std::vector<Argument> arguments;
+        for (Objects<T>& source : src)
+            source.pass(arguments);
+        for (const Source& source : sources_)
+            if (source.constant)
+                arguments.push_back(argument(value));
+        dst[destination].pass(arguments);
+        if (shape_.fixed == 0) {
+            arguments.push_back(argument(shape_.width));
+            if (!vectors_)
+                arguments.push_back(argument(shape_.height));
+        }
+        if (batch_)
+            arguments.push_back(argument(count));
+        return invoke(name_, arguments).status;
+    }
+
+    // The second destination by the formula.
+    void compute(const std::function<T(T, T)>& f)
+    {
+        for (unsigned k = 0; k < shape_.count; ++k)
+            for (unsigned i = 0; i < shape_.height; ++i)
+                for (unsigned j = 0; j < shape_.width; ++j) {
+                    T x[2] = {value, value};
+                    unsigned n = 0;
+                    for (unsigned s = 0; s < sources_.size(); ++s)
+                        if (!sources_[s].constant) {
+                            x[s] = sources_[s].turned ? src[n].at(k, j, i) : src[n].at(k, i, j);
+                            ++n;
+                        }
+                    dst[1].at(k, i, j) = f(x[0], x[1]);
+                }
+    }
+
+    std::deque<Objects<T>> src, dst;
+
+private:
     struct Source
     {
-        char kind;
-        bool array = false, turned = false;
+        bool constant = false, array = false, turned = false;
     };
-    std::vector<Source> sources;
-    for (const char c : code) {
-        if (c == 'a')
-            sources.back().array = true;
-        else if (c == 'T')
-            sources.back().turned = true;
-        else
-            sources.push_back({c});
-    }
-    const bool batch = code.find('a') != code.npos, vectors = code.find('v') != code.npos;
-    const char kind = vectors ? 'v' : 'm';
-    const std::string size =
-        fixed == 0 ? "" : "_" + std::to_string(fixed) + "x" + std::to_string(vectors ? 1 : fixed);
-    const std::string name = "tenk" + root + "_" + code + "_" + typeName<T>() + size + layout;
-    SCOPED_TRACE(name + " with a gap of " + std::to_string(gap));
 
-    const T value = T(0.3);
-    std::deque<Objects<T>> objects;
-    std::vector<Argument> arguments;
-    for (const Source& s : sources) {
-        if (s.kind == 'c')
-            continue;
-        objects.emplace_back(typename Objects<T>::Shape{kind, s.array, s.turned ? width : height,
-                                                        s.turned ? height : width, count},
-                             layout, gap);
-        objects.back().randomise(static_cast<unsigned>(objects.size()));
-        objects.back().pass(arguments);
-    }
-    if (code.find('c') != code.npos)
-        arguments.push_back(argument(value));
-    Objects<T> dst({kind, batch, height, width, count}, layout, gap),
-        expected({kind, batch, height, width, count}, layout, gap);
-    dst.pass(arguments);
-    if (fixed == 0) {
-        arguments.push_back(argument(width));
-        if (!vectors)
-            arguments.push_back(argument(height));
-    }
-    if (batch)
-        arguments.push_back(argument(count));
+    Shape shape_;
+    bool batch_, vectors_;
+    std::vector<Source> sources_;
+    std::string name_;
+};
 
-    for (unsigned k = 0; k < count; ++k)
-        for (unsigned i = 0; i < height; ++i)
-            for (unsigned j = 0; j < width; ++j) {
-                T x[2] = {value, value};
-                unsigned n = 0;
-                for (unsigned s = 0; s < sources.size(); ++s)
-                    if (sources[s].kind != 'c') {
-                        x[s] = sources[s].turned ? objects[n].at(k, j, i) : objects[n].at(k, i, j);
-                        ++n;
-                    }
-                expected.at(k, i, j) = f(x[0], x[1]);
-            }
-    EXPECT_EQ(invoke(name, arguments).status, tenkOk);
-    EXPECT_TRUE(dst.all() == expected.all());
+// Calls one function and compares all of the destination with the formula.
+template <typename T>
+void expectFormula(Call<T> call, unsigned count, const std::function<T(T, T)>& f)
+{
+    call.compute(f);
+    EXPECT_EQ(call.run(count), tenkOk) << call.name();
+    EXPECT_TRUE(call.dst[0].all() == call.dst[1].all()) << call.name();
 }
 
-// All layouts and sizes of some codes, in both types. `standsApart` has the names to leave out.
+// Calls visit(code, layout, fixed) for all layouts and sizes of some codes.
+inline void eachMember(const std::vector<std::string>& codes,
+                       const std::function<void(const std::string&, const std::string&, unsigned)>& visit)
+{
+    for (const std::string& code : codes)
+        for (const std::string layout : {"", "_S2", "_P", "_PS2", "_L", "_LS2"})
+            for (unsigned fixed : {0U, 3U, 4U, 5U, 6U})
+                if (code.find('a') != code.npos || layout == "" || layout == "_S2" || layout == "_P")
+                    visit(code, layout, fixed);
+}
+
+template <typename T>
+typename Call<T>::Shape shapeOf(const std::string& code, unsigned fixed, unsigned count)
+{
+    const bool vectors = code.find('v') != code.npos;
+    return {fixed, fixed ? fixed : 17, vectors ? 1 : fixed ? fixed : 3, count};
+}
+
+// Which members to leave out, by what is behind the root in their names: always, and with operands of
+// different gaps.
+struct LeftOut
+{
+    std::vector<std::string> always, withDifferentGaps;
+
+    bool has(const std::string& name, bool differentGaps) const
+    {
+        const auto in = [&](const std::vector<std::string>& names) {
+            return std::find(names.begin(), names.end(), name) != names.end();
+        };
+        return in(always) || (differentGaps && in(withDifferentGaps));
+    }
+};
+
+// All layouts and sizes of some codes, in both types: with gaps and without, that differ among the operands,
+// and with every choice of operands on multiples of 16, where rows are on them as well and where they are
+// not.
 inline void expectFormulaEverywhere(const std::string& root, const std::vector<std::string>& codes,
                                     const std::function<float(float, float)>& f32,
-                                    const std::function<double(double, double)>& f64,
-                                    const std::function<bool(const std::string&)>& standsApart)
+                                    const std::function<double(double, double)>& f64, const LeftOut& leftOut)
 {
-    for (const std::string& code : codes) {
-        const bool batch = code.find('a') != code.npos, vectors = code.find('v') != code.npos;
-        for (const std::string layout : {"", "_S2", "_P", "_PS2", "_L", "_LS2"}) {
-            if (!batch && layout != "" && layout != "_S2" && layout != "_P")
+    constexpr unsigned alone = betweenObjectsAlone;
+    std::vector<Gaps> all = {{0, {0, 0}}, {1, {1, 1}},     {2, {2, 2}},     {1, {0, 0}},    {0, {1, 0}},
+                             {0, {0, 1}}, {alone, {0, 0}}, {0, {alone, 0}}, {0, {0, alone}}};
+    for (unsigned odd = 1; odd < 8; ++odd)
+        for (unsigned gap : {0U, 1U})
+            all.push_back({gap, {gap, gap}, odd});
+    eachMember(codes, [&](const std::string& code, const std::string& layout, unsigned fixed) {
+        for (const Gaps& gaps : all)
+            for (unsigned count : {1U, 2U, 5U}) {
+                const std::string size = std::to_string(fixed) + "x" + std::to_string(fixed) + layout;
+                const bool different = gaps.dst != gaps.src[0] || gaps.dst != gaps.src[1];
+                if (count > 1 && (code.find('a') == code.npos || (count == 5 && gaps.odd != 0)))
+                    continue;
+                SCOPED_TRACE("gaps " + std::to_string(gaps.dst) + std::to_string(gaps.src[0]) +
+                             std::to_string(gaps.src[1]) + ", odd " + std::to_string(gaps.odd) + ", count " +
+                             std::to_string(count));
+                if (!leftOut.has(code + "_32f_" + size, different))
+                    expectFormula<float>({root, code, layout, shapeOf<float>(code, fixed, count), gaps},
+                                         count, f32);
+                if (!leftOut.has(code + "_64f_" + size, different))
+                    expectFormula<double>({root, code, layout, shapeOf<double>(code, fixed, count), gaps},
+                                          count, f64);
+            }
+    });
+}
+
+// An entry that is null ends a call before its object: the same bytes are written as by a call that is told
+// to stop there.
+template <typename T>
+void testsListsObjectByObject(const std::string& root, const std::string& code, const std::string& layout,
+                              unsigned fixed, unsigned gap)
+{
+    for (unsigned bad : {0U, 1U, 2U})
+        for (std::size_t operand = 0; operand < 3; ++operand) {
+            Call<T> call(root, code, layout, shapeOf<T>(code, fixed, 3), {gap, {gap, gap}});
+            EXPECT_EQ(call.run(bad, 1), tenkOk) << call.name();
+            if (operand > call.src.size() ||
+                !(operand == 0 ? call.dst[0] : call.src[operand - 1]).loseObject(bad))
                 continue;
-            for (unsigned gap : {0U, 1U, 2U})
-                for (unsigned fixed : {0U, 3U, 4U, 5U, 6U})
-                    for (unsigned count : {1U, 2U, 5U}) {
-                        const unsigned width = fixed ? fixed : 17, height = vectors ? 1 : fixed ? fixed : 3;
-                        const std::string size = std::to_string(fixed) + "x" + std::to_string(fixed) + layout;
-                        if (!batch && count > 1)
-                            continue;
-                        if (!standsApart(code + "_32f_" + size))
-                            expectFormula<float>(root, code, fixed, layout, gap, width, height, count, f32);
-                        if (!standsApart(code + "_64f_" + size))
-                            expectFormula<double>(root, code, fixed, layout, gap, width, height, count, f64);
-                    }
+            EXPECT_EQ(call.run(3), tenkNullPointerError) << call.name();
+            EXPECT_TRUE(call.dst[0].all() == call.dst[1].all())
+                << call.name() << " operand " << operand << " at " << bad;
         }
-    }
+}
+
+inline void testsListsObjectByObjectEverywhere(const std::string& root, const std::vector<std::string>& codes,
+                                               const LeftOut& leftOut)
+{
+    eachMember(codes, [&](const std::string& code, const std::string& layout, unsigned fixed) {
+        const std::string size = std::to_string(fixed) + "x" + std::to_string(fixed) + layout;
+        for (const unsigned gap : {0U, 1U}) {
+            if (layout != "_L" && layout != "_LS2")
+                continue;
+            if (!leftOut.has(code + "_32f_" + size, false))
+                testsListsObjectByObject<float>(root, code, layout, fixed, gap);
+            testsListsObjectByObject<double>(root, code, layout, fixed, gap);
+        }
+    });
 }
 
 } // namespace elementwise

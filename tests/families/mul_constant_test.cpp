@@ -15,11 +15,16 @@ std::vector<T> counting(std::size_t n)
     return x;
 }
 
+const std::vector<std::string> codes = {"vc", "vac", "mc", "mTc", "mac", "maTc"};
+
 TEST(MulByAConstant, IsTheFormulaInAllLayoutsAndSizes)
 {
     expectFormulaEverywhere(
-        "Mul", {"vc", "vac", "mc", "mTc", "mac", "maTc"}, [](float a, float b) { return a * b; },
-        [](double a, double b) { return a * b; }, [](const std::string&) { return false; });
+        "Mul", codes, [](float a, float b) { return a * b; }, [](double a, double b) { return a * b; }, {});
+}
+TEST(MulByAConstant, TestsListsObjectByObjectInAllSizes)
+{
+    testsListsObjectByObjectEverywhere("Mul", codes, {});
 }
 
 // dst = 2 src at every element offset around src, and at odd addresses, against a loop by ascending index.
@@ -88,6 +93,18 @@ TEST(MulByAConstant, WorksInPlaceUnlessItTransposes)
                              n, n, 2),
                       tenkOk);
             EXPECT_EQ(x, expected);
+            // One object: the rows of the first.
+            for (const bool general : {false, true}) {
+                auto one = counting<float>(200), scaled = one;
+                for (unsigned i = 0; i < n; ++i)
+                    for (unsigned j = 0; j < n; ++j)
+                        scaled[i * stride1 / 4 + j] *= 3;
+                EXPECT_EQ(
+                    general ? status("tenkMul_mc_32f", one.data(), stride1, 3.F, one.data(), stride1, n, n)
+                            : status("tenkMul_mc_32f" + size, one.data(), stride1, 3.F, one.data(), stride1),
+                    tenkOk);
+                EXPECT_EQ(one, scaled);
+            }
         }
     auto v = counting<double>(20);
     EXPECT_EQ(tenkMul_vac_64f_5x1(v.data(), 40, 2, v.data(), 40, 4), tenkOk);
@@ -134,6 +151,31 @@ void expectTransposedInPlace(unsigned n, const std::string& size, const std::str
         EXPECT_EQ(invoke(name, arguments).status, tenkOk);
         EXPECT_EQ(x, expected) << name;
     }
+}
+
+// The same behind tables, where no size is exact.
+TEST(MulByAConstant, TransposedInPlaceBehindTablesIsThePlainLoop)
+{
+    for (const unsigned n : {3U, 4U})
+        for (const bool fixed : {false, true})
+            for (const std::string code : {"mTc", "maTc"}) {
+                auto x = counting<double>(n * n), expected = x;
+                std::vector<double*> table;
+                for (unsigned e = 0; e < n * n; ++e)
+                    table.push_back(&x[e]);
+                for (unsigned i = 0; i < n; ++i)
+                    for (unsigned j = 0; j < n; ++j)
+                        expected[i * n + j] = 2 * expected[j * n + i];
+                const std::string size = fixed ? "_" + std::to_string(n) + "x" + std::to_string(n) : "";
+                std::vector<Argument> a = {argument(table.data()), argument(0), argument(2.0),
+                                           argument(table.data()), argument(0)};
+                for (int word = 0; word < (fixed ? 0 : 2); ++word)
+                    a.push_back(argument(n));
+                if (code == "maTc")
+                    a.push_back(argument(1));
+                EXPECT_EQ(invoke("tenkMul_" + code + "_64f" + size + "_P", a).status, tenkOk);
+                EXPECT_EQ(x, expected) << code << size;
+            }
 }
 
 TEST(MulByAConstant, TransposedInPlaceIsExactAt4x4WithAdjacentElementsAlone)

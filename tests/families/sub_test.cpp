@@ -7,20 +7,26 @@ using namespace elementwise;
 
 const Sum sub{"Sub", -1};
 
+const std::vector<std::string> codes = {"vv",   "vav",   "vva",   "vava",   "vc",  "cv",   "vac",  "cva",
+                                        "mm",   "mTm",   "mmT",   "mTmT",   "mam", "maTm", "mamT", "maTmT",
+                                        "mama", "maTma", "mamaT", "maTmaT", "mma", "mTma", "mmaT", "mTmaT"};
+
+// Members that take a step of one source for another's need sources of the same gaps.
+const LeftOut leftOut = {.always = {"mTmT_32f_6x6", "maTmaT_32f_6x6", "maTmaT_32f_6x6_L", "mTma_64f_3x3",
+                                    "mTma_64f_3x3_L", "mam_64f_3x3_L", "mma_64f_3x3_L", "mamT_64f_3x3_L"},
+                         .withDifferentGaps = {"mamT_32f_3x3", "mamT_32f_3x3_L", "mam_64f_5x5",
+                                               "mam_64f_5x5_L", "mama_64f_5x5", "mama_64f_5x5_L"}};
+
 TEST(Sub, IsTheFormulaInAllLayoutsAndSizes)
 {
-    const auto apart = [](const std::string& name) {
-        for (const char* other : {"mTmT_32f_6x6", "maTmaT_32f_6x6", "maTmaT_32f_6x6_L", "mTma_64f_3x3",
-                                  "mTma_64f_3x3_L", "mam_64f_3x3_L", "mma_64f_3x3_L", "mamT_64f_3x3_L"})
-            if (name == other)
-                return true;
-        return false;
-    };
     expectFormulaEverywhere(
-        "Sub",
-        {"vv",  "vav",  "vva",  "vava",  "vc",   "cv",    "vac",   "cva",    "mm",  "mTm",  "mmT",  "mTmT",
-         "mam", "maTm", "mamT", "maTmT", "mama", "maTma", "mamaT", "maTmaT", "mma", "mTma", "mmaT", "mTmaT"},
-        [](float a, float b) { return a - b; }, [](double a, double b) { return a - b; }, apart);
+        "Sub", codes, [](float a, float b) { return a - b; }, [](double a, double b) { return a - b; },
+        leftOut);
+}
+TEST(Sub, TestsListsObjectByObjectInAllSizes)
+{
+    testsListsObjectByObjectEverywhere(
+        "Sub", codes, {.always = {"mam_32f_3x3_L", "mamT_32f_3x3_L"}, .withDifferentGaps = {}});
 }
 
 TEST(Sub, OfAThousandElementsDoesNotShowItsVectors)
@@ -111,6 +117,14 @@ TEST(Sub, WorksInPlace)
 TEST(Sub, KeepsTheSingleOperandInFixedSizesAlone)
 {
     keepsTheSingleOperandInFixedSizesAlone(sub);
+}
+TEST(Sub, KeepsTheSingleMatrixInFixedSizesAlone32f)
+{
+    keepsTheSingleMatrixInFixedSizesAlone<float>(sub);
+}
+TEST(Sub, KeepsTheSingleMatrixInFixedSizesAlone64f)
+{
+    keepsTheSingleMatrixInFixedSizesAlone<double>(sub);
 }
 TEST(Sub, RaisesNothingOfItsOwn32f)
 {

@@ -188,6 +188,25 @@ inline void testsTables(const Sum& f)
             }
             EXPECT_EQ(d, std::vector<float>(9, 9));
 
+            for (const int count : {0, 1}) {
+                const tenkStatus s = status(f.name("vac_32f_P"), t[0], 0, 100.F, t[2], 0, 9, count);
+                EXPECT_EQ(s, operand == 1 ? tenkOk : tenkNullPointerError);
+            }
+            if (operand == 1)
+                std::fill(d.begin(), d.end(), 9.0F);
+            EXPECT_EQ(d, std::vector<float>(9, 9));
+
+            for (const bool constant : {false, true}) {
+                if (constant && operand == 1)
+                    continue;
+                EXPECT_EQ(constant ? status(f.name("vc_32f_P"), t[0], 0, 100.F, t[2], 0, 9)
+                                   : status(f.name("vv_32f_P"), t[0], 0, t[1], 0, t[2], 0, 9),
+                          tenkNullPointerError);
+                for (std::size_t e = 0; e < 9; ++e)
+                    EXPECT_EQ(d[e], e < bad ? f(a[e], constant ? 100.F : b[e]) : 9.F);
+                std::fill(d.begin(), d.end(), 9.0F);
+            }
+
             for (const bool fixed : {false, true}) {
                 std::fill(d.begin(), d.end(), 9.0F);
                 const tenkStatus s = fixed ? status(f.name("mm_32f_3x3_P"), t[0], 0, t[1], 0, t[2], 0)
@@ -290,6 +309,53 @@ inline void keepsTheSingleOperandInFixedSizesAlone(const Sum& f)
             EXPECT_EQ(y, expected);
         }
     }
+}
+
+// The same with matrices. The single operand is object 0 of the destination, which is what a member of fixed
+// size has kept when it comes to object 1.
+template <typename T>
+void keepsTheSingleMatrixInFixedSizesAlone(const Sum& f)
+{
+    for (const std::string code : {"mam", "maTm", "mamT", "maTmT"})
+        for (const std::string layout : {"", "_L"})
+            for (const unsigned n : {3U, 4U, 5U, 6U})
+                for (const unsigned columns : {n, n + n % 2, n + 2}) {
+                    const unsigned size = sizeof(T), stride1 = columns * size, stride0 = n * stride1;
+                    AlignedRun<T> x(2 * n * columns), y(2 * n * columns), before(2 * n * columns);
+                    for (std::size_t e = 0; e < 2 * n * columns; ++e) {
+                        x[e] = T(e * e);
+                        before[e] = y[e] = T(1000 + e);
+                    }
+                    const T* src[] = {x.begin(), x.begin() + n * columns};
+                    T* dst[] = {y.begin(), y.begin() + n * columns};
+                    const std::string order = std::to_string(n);
+                    const std::string name =
+                        f.name(code + "_" + typeName<T>() + "_" + order + "x" + order + layout);
+                    EXPECT_EQ(layout.empty()
+                                  ? status(name, x.begin(), stride0, stride1, y.begin(), stride1, y.begin(),
+                                           stride0, stride1, 2)
+                                  : status(name, src, 0, stride1, y.begin(), stride1, dst, 0, stride1, 2),
+                              tenkOk);
+                    for (unsigned k = 0; k < 2; ++k)
+                        for (unsigned i = 0; i < n; ++i)
+                            for (unsigned j = 0; j < n; ++j) {
+                                const auto at = [&](bool turned) {
+                                    return turned ? j * columns + i : i * columns + j;
+                                };
+                                const T a = x[k * n * columns + at(code[2] == 'T')],
+                                        b = before[at(code.back() == 'T')];
+                                EXPECT_EQ(y[k * n * columns + at(false)], f(a, b))
+                                    << name << " rows of " << columns << " object " << k;
+                            }
+                }
+    // A general member reads what it has stored.
+    std::vector<T> x = {1, 2, 3, 4}, y = {10, 20, 0, 0};
+    const unsigned size = sizeof(T);
+    EXPECT_EQ(status(f.name("mam_" + typeName<T>()), x.data(), 2 * size, size, y.data(), size, y.data(),
+                     2 * size, size, 1, 2, 2),
+              tenkOk);
+    EXPECT_EQ(y, (std::vector<T>{f(T(1), T(10)), f(T(2), T(20)), f(T(3), f(T(1), T(10))),
+                                 f(T(4), f(T(2), T(20)))}));
 }
 
 } // namespace elementwise

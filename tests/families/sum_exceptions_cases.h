@@ -238,38 +238,72 @@ struct MixedCase
     bool exchangesLast = false;
 };
 
-// One object, its rows 32 bytes apart.
-inline void expectPlaces(const Sum& f, const MixedCase& c)
+// What keeps an operand from being aligned: its address, the shift that is added to it, or the step of its
+// rows. `both` are an address and a shift that make up an aligned one.
+enum class Odd
+{
+    nothing,
+    address,
+    shift,
+    step,
+    both
+};
+
+// Rows of three elements in a row step of 32 bytes, or 40.
+struct OddOperand
+{
+    OddOperand(Odd o, double first, double step) : odd(o), values(32)
+    {
+        for (std::size_t e = 0; e < 32; ++e)
+            values[e] = first + step * static_cast<double>(e * e);
+        list[0] = p();
+    }
+    double* p() { return values.begin() + (odd == Odd::address || odd == Odd::both ? 1 : 0); }
+    std::uint32_t shift() const { return odd == Odd::shift || odd == Odd::both ? 8 : 0; }
+    std::uint32_t stride1() const { return odd == Odd::step ? 40 : 32; }
+    double& at(unsigned i, unsigned j) { return p()[shift() / 8 + i * stride1() / 8 + j]; }
+
+    Odd odd;
+    AlignedRun<double> values;
+    double* list[1];
+};
+
+// One object of a list.
+inline void expectPlaces(const Sum& f, const MixedCase& c, Odd singleOdd, Odd srcOdd, Odd dstOdd)
 {
     const bool arrayFirst = c.code[1] == 'a';
-    AlignedRun<double> single(32), array(32), out(32, 9);
-    for (std::size_t e = 0; e < 32; ++e) {
-        single[e] = static_cast<double>(e * e + 3);
-        array[e] = static_cast<double>(1000 + 7 * e);
-    }
-    const unsigned columns = 4;
-    const double* s = single.begin() + (c.singleAligned ? 0 : 1);
-    const double* x = array.begin() + (c.objectAligned ? 0 : 1);
-    const double* source[] = {x};
-    double* destination[] = {out.begin()};
-    const tenkStatus result =
-        arrayFirst ? status(f.name(c.code + "_64f_3x3_L"), source, 0, 32, s, 32, destination, 0, 32, 1)
-                   : status(f.name(c.code + "_64f_3x3_L"), s, 32, source, 0, 32, destination, 0, 32, 1);
-    EXPECT_EQ(result, tenkOk);
+    OddOperand s(singleOdd, 3, 1), x(srcOdd, 1000, 7), d(dstOdd, 9, 0);
+    const std::string name = f.name(c.code + "_64f_3x3_L");
+    EXPECT_EQ(arrayFirst ? status(name, x.list, x.shift(), x.stride1(), s.p(), s.stride1(), d.list, d.shift(),
+                                  d.stride1(), 1)
+                         : status(name, s.p(), s.stride1(), x.list, x.shift(), x.stride1(), d.list, d.shift(),
+                                  d.stride1(), 1),
+              tenkOk);
     for (unsigned e = 0; e < 9; ++e) {
         const int place = c.places[e];
         if (place == any)
             continue;
         const double one =
-            place == zero
-                ? 0.0
-                : s[static_cast<unsigned>(place / 10) * columns + static_cast<unsigned>(place % 10)];
-        const double other = x[e / 3 * columns + e % 3];
+            place == zero ? 0.0 : s.at(static_cast<unsigned>(place / 10), static_cast<unsigned>(place % 10));
+        const double other = x.at(e / 3, e % 3);
         const bool exchanged = c.exchangesLast && e == 8;
         const double expected = arrayFirst != exchanged ? f(other, one) : f(one, other);
-        EXPECT_EQ(out[e / 3 * columns + e % 3], expected)
-            << c.code << " single " << c.singleAligned << " object " << c.objectAligned << " place " << e;
+        EXPECT_EQ(d.at(e / 3, e % 3), expected) << c.code << " single " << int(singleOdd) << " src "
+                                                << int(srcOdd) << " dst " << int(dstOdd) << " place " << e;
     }
+}
+
+// Everything that an operand can be odd in, in turn.
+inline void expectPlaces(const Sum& f, const MixedCase& c)
+{
+    const std::vector<Odd> odd = {Odd::address, Odd::shift, Odd::step}, even = {Odd::nothing, Odd::both};
+    for (const Odd single :
+         c.singleAligned ? std::vector{Odd::nothing} : std::vector{Odd::address, Odd::step})
+        for (const Odd one : c.objectAligned ? even : odd)
+            for (const Odd other : even) {
+                expectPlaces(f, c, single, one, other);
+                expectPlaces(f, c, single, other, one);
+            }
 }
 
 inline constexpr Places straight = {0, 1, 2, 10, 11, 12, 20, 21, 22},
