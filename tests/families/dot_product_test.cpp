@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 #include <limits>
 #include <random>
+#include <sys/mman.h>
 #include <vector>
 
 #include "support/objects.h"
@@ -260,6 +261,36 @@ TEST(DotProduct, WithASecondVectorAtAnOddAddressIsTheSumInOrder)
                   x, reinterpret_cast<const float*>(reinterpret_cast<std::uintptr_t>(memory) + 1), &s, 8),
               tenkOk);
     EXPECT_EQ(s, big);
+}
+
+TEST(DotProduct, OfOneElementIsItsProduct)
+{
+    const float x = 3, y = -0.7F;
+    float s = 0;
+    EXPECT_EQ(tenkDotProduct_vv_32f(&x, &y, &s, 1), tenkOk);
+    EXPECT_EQ(s, 3 * -0.7F);
+}
+
+// Behind the first block there are 2^31 - 8 zeros. With blocks the sum would be that of eight elements above,
+// 2^24 + 2; the length counts as a signed number, so there is none, and in order each 1 is lost.
+TEST(DotProduct, OfTwoToTheThirtyOneElementsIsTheSumInOrder)
+{
+    if constexpr (sizeof(void*) == 8) {
+        const std::size_t length = std::size_t{1} << 31;
+        void* const memory = mmap(nullptr, length * sizeof(float), PROT_READ | PROT_WRITE,
+                                  MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+        ASSERT_NE(memory, MAP_FAILED);
+        float* const x = static_cast<float*>(memory);
+        x[0] = 4096, x[1] = 1, x[5] = 1; // with itself: 2^24, 1 and 1
+        float s = 0;
+        EXPECT_EQ(tenkDotProduct_vv_32f(x, x, &s, 8), tenkOk);
+        EXPECT_EQ(s, 16777218.0F);
+        EXPECT_EQ(tenkDotProduct_vv_32f(x, x, &s, static_cast<std::uint32_t>(length)), tenkOk);
+        EXPECT_EQ(s, 16777216.0F);
+        munmap(memory, length * sizeof(float));
+    } else {
+        GTEST_SKIP() << "more than the address space holds";
+    }
 }
 
 // ---------------------------------------------------------------------------------------------------------------

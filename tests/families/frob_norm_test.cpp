@@ -240,6 +240,17 @@ TEST(FrobNorm, OfAnArrayDoesNotDependOnThePlaceOfAnObject)
         }
 }
 
+TEST(FrobNorm, TakesTheFifthOfFiveObjectsByTheSameFormula)
+{
+    Floats x;
+    for (int k = 0; k < 5; ++k)
+        x.insert(x.end(), {1, 2, 3, 4, 5, 6, 7, 8, 9});
+    Floats batch(6, 9);
+    EXPECT_EQ(tenkFrobNorm_ma_32f_3x3(x.data(), 36, 12, batch.data(), 5), tenkOk);
+    const float norm = fiveSteps(285); // 1 + 4 + 9 + ... + 81, exact in any order
+    EXPECT_EQ(batch, (Floats{norm, norm, norm, norm, norm, 9}));
+}
+
 // ---------------------------------------------------------------------------------------------------------------
 // Special values
 // ---------------------------------------------------------------------------------------------------------------

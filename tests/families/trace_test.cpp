@@ -88,7 +88,7 @@ TEST(Trace, OfOrderOneIsTheElementAndMinusZeroBecomesPlusZero)
     EXPECT_EQ(bits(t), 0U);
 }
 
-TEST(Trace, PassesNaNsThroughAndReadsNothingBesideTheDiagonal)
+TEST(Trace, PassesNaNsAndInfinitiesThroughAndReadsNothingBesideTheDiagonal)
 {
     const float nan = std::numeric_limits<float>::quiet_NaN();
     const float x[] = {1, nan, nan, nan, 2, nan, nan, nan, 3}, y[] = {1, 0, 0, 0, nan, 0, 0, 0, 3};
@@ -98,6 +98,12 @@ TEST(Trace, PassesNaNsThroughAndReadsNothingBesideTheDiagonal)
     EXPECT_EQ(tenkTrace_m_32f(x, 12, 3, &t), tenkOk);
     EXPECT_EQ(t, 6.0F);
     EXPECT_EQ(tenkTrace_m_32f_3x3(y, 12, &t), tenkOk);
+    EXPECT_TRUE(std::isnan(t));
+    const float infinity = std::numeric_limits<float>::infinity();
+    const float z[] = {1, 0, 0, 0, infinity, 0, 0, 0, -3}, w[] = {infinity, 0, 0, -infinity};
+    EXPECT_EQ(tenkTrace_m_32f_3x3(z, 12, &t), tenkOk);
+    EXPECT_EQ(t, infinity);
+    EXPECT_EQ(tenkTrace_m_32f(w, 8, 2, &t), tenkOk);
     EXPECT_TRUE(std::isnan(t));
 }
 
