@@ -32,23 +32,15 @@ consteval bool refinesEstimate(Member m)
 }
 
 // How the objects of a batch are taken: those of 3 x 3 and 4 x 4 are read a step at a time, and their list
-// entries tested, before the first result of the step is written. All others go object by object, as far as
-// can be told; in 64f it does not pay to find that out for each step of a list.
+// entries tested, before the first result of the step is written; the entries of the objects behind the last
+// full step are not tested, and a null one is used as an address. All others go object by object, as far as
+// can be told.
 consteval BatchSteps stepsOf(Member m)
 {
     const bool small = m.size <= 4;
     if (!m.batch() || !isOfRows(m))
-        return {1, true};
-    if (m.type == Type::f32)
-        return {4, small};
-    return {small || m.layout == Layout::Standard ? 2U : 1U, small};
-}
-
-// Lists that are worked through in steps test no entry of the objects behind the last full step: a null entry
-// there is used as an address.
-consteval bool testsRest(Member m)
-{
-    return !(stepsOf(m).objects > 1 && stepsOf(m).together);
+        return {.objects = 1, .together = true};
+    return {.objects = m.type == Type::f32 ? 4U : 2U, .together = small, .testsRest = !small};
 }
 
 // The sums of the squares of each column, one column per lane.
@@ -133,10 +125,10 @@ TENK_INLINE Vector<float> pairOf(const View& view)
 }
 
 // Elements e to e + 3.
-template <unsigned n, unsigned e, bool gapless, typename View>
+template <unsigned n, unsigned e, bool dense, typename View>
 TENK_INLINE Vector<float> quadOf(const View& view)
 {
-    if constexpr (gapless)
+    if constexpr (dense)
         return loadVector<float>(view.start + e * sizeof(float));
     else if constexpr (e % n + 3 < n)
         return loadVector<float>(view.at(e / n, e % n));
@@ -147,24 +139,23 @@ TENK_INLINE Vector<float> quadOf(const View& view)
 }
 
 // The sum of the squares of `quads` quads from quad `first` on, by lanes, halves before wholes.
-template <unsigned n, unsigned first, unsigned quads, bool gapless, typename View>
+template <unsigned n, unsigned first, unsigned quads, bool dense, typename View>
 TENK_INLINE Vector<float> quadSums(const View& view)
 {
     if constexpr (quads == 1) {
-        const auto v = quadOf<n, first * 4, gapless>(view);
+        const auto v = quadOf<n, first * 4, dense>(view);
         return v * v;
     } else {
         constexpr unsigned left = quads / 2;
-        return quadSums<n, first, left, gapless>(view) +
-               quadSums<n, first + left, quads - left, gapless>(view);
+        return quadSums<n, first, left, dense>(view) + quadSums<n, first + left, quads - left, dense>(view);
     }
 }
 
 // The sum over one matrix: lanes 0 + 2 and 1 + 3 first, and the last element of an odd order at the end.
-template <unsigned n, bool gapless, typename View>
+template <unsigned n, bool dense, typename View>
 TENK_INLINE float sumByQuads(const View& view)
 {
-    const auto s = quadSums<n, 0, n * n / 4, gapless>(view);
+    const auto s = quadSums<n, 0, n * n / 4, dense>(view);
     const float sum = (s[0] + s[2]) + (s[1] + s[3]);
     if constexpr (n % 2 == 0)
         return sum;
@@ -173,12 +164,12 @@ TENK_INLINE float sumByQuads(const View& view)
 }
 
 // The same for four matrices, one per lane; view(i) is the view of one.
-template <unsigned n, bool gapless, typename Views>
+template <unsigned n, bool dense, typename Views>
 TENK_INLINE Vector<float> sumsByQuads(Views view)
 {
     const auto evenAndOdd = [&](auto i) TENK_LAMBDA {
-        const auto a = quadSums<n, 0, n * n / 4, gapless>(view(i));
-        const auto b = quadSums<n, 0, n * n / 4, gapless>(view(i + 1));
+        const auto a = quadSums<n, 0, n * n / 4, dense>(view(i));
+        const auto b = quadSums<n, 0, n * n / 4, dense>(view(i + 1));
         return lowHalves(a, b) + highHalves(a, b);
     };
     const auto sums = sumNeighbours(evenAndOdd(index<0>), evenAndOdd(index<2>));
@@ -202,29 +193,22 @@ TENK_INLINE auto rootOf(auto s)
         return root(s);
 }
 
-// gapless: rows follow each other without a gap, and objects do, too, unless they are in a list.
-template <Member m, bool gapless>
-TENK_INLINE tenkStatus normsOfRows(Source<m> src, Element<m>* dst, std::size_t count)
+// dense: rows follow each other without a gap.
+template <Member m, bool dense>
+TENK_INLINE tenkStatus normsOfRows(const Source<m>& src, Element<m>* dst, std::size_t count)
 {
     using T = Element<m>;
-    using S = Source<m>;
     constexpr unsigned n = m.size;
     constexpr BatchSteps steps = stepsOf(m);
     constexpr bool quads = m.batch() && m.type == Type::f32;
-    if constexpr (gapless) {
-        src.stride1 = n * sizeof(T);
-        if constexpr (!S::list)
-            src.stride0 = n * n * sizeof(T);
-    }
-    const std::size_t tested = testsRest(m) ? count : count / steps.objects * steps.objects;
     const auto view = [&](std::size_t k) TENK_LAMBDA { return src.object(k, n); };
     return inSteps<steps>(
-        dst, count, [&](std::size_t k) TENK_LAMBDA { return k < tested && anyNullObject(k, src); },
-        Apart<n, n, steps.objects, S>(src, dst, count),
+        dst, count, [&](std::size_t k) TENK_LAMBDA { return anyNullObject(k, src); },
+        Apart<n, n, steps.objects, Source<m>>(src, dst, count),
         [&](auto k) TENK_LAMBDA {
             if constexpr (quads) {
                 return rootOf<m>(
-                    sumsByQuads<n, gapless>([&](std::size_t i) TENK_LAMBDA { return view(k + i); }));
+                    sumsByQuads<n, dense>([&](std::size_t i) TENK_LAMBDA { return view(k + i); }));
             } else {
                 const Row<T, n> c[] = {columnSums<T, n>(view(k)), columnSums<T, n>(view(k + 1))};
                 return rootOf<m>(sumsAcross(c));
@@ -232,7 +216,7 @@ TENK_INLINE tenkStatus normsOfRows(Source<m> src, Element<m>* dst, std::size_t c
         },
         [&](std::size_t k) TENK_LAMBDA {
             if constexpr (quads)
-                return rootOf<m>(sumByQuads<n, gapless>(view(k)));
+                return rootOf<m>(sumByQuads<n, dense>(view(k)));
             else
                 return rootOf<m>(sumAcross(columnSums<T, n>(view(k))));
         });
@@ -259,9 +243,8 @@ TENK_INLINE tenkStatus frobNorm(Source<m> src, Size<m> width, Size<m> height, El
                     return tenkNullPointerError;
 
     if constexpr (frob::isOfRows(m)) {
-        constexpr Displacement row = m.size * sizeof(T);
-        if (src.stride1 == row && m.batch() && (src.list || src.stride0 == m.size * row))
-            return frob::normsOfRows<m, true>(src, dst, count);
+        if (m.batch() && gapless<m.size>(src))
+            return frob::normsOfRows<m, true>(packed<m.size>(src), dst, count);
         return frob::normsOfRows<m, false>(src, dst, count);
     }
     return inSteps<1>(
