@@ -42,8 +42,9 @@ TENK_INLINE void elements(F f, Address dst, Address x, Address y)
     using R = Row<T, n>;
     // Three elements go one after the other as quickly as it takes to find out whether they may go in
     // vectors.
+    constexpr bool three = n == 3 && (sizeof(T) == 8 || sizeof(Address) == 8);
     if (overlap == Overlap::ascending &&
-        (n == 3 || startsInside(dst, x, n * sizeof(T)) || startsInside(dst, y, n * sizeof(T))))
+        (three || startsInside(dst, x, n * sizeof(T)) || startsInside(dst, y, n * sizeof(T))))
         each<n>([&](auto j) TENK_LAMBDA {
             store<T>(dst + j * sizeof(T), f(load<T>(x + j * sizeof(T)), load<T>(y + j * sizeof(T))));
         });
@@ -158,14 +159,19 @@ TENK_INLINE tenkStatus combination(F f, const Source<m>& src1, const Source<m, 1
         longVector<T>(f, std::size_t{length} * count, dst.p, src1.p, src2.p);
         return tenkOk;
     }
-    if constexpr (m.layout == Layout::Standard && m.batch() && !m.general()) {
+    if constexpr (isDense(m.layout) && m.batch() && !m.general()) {
         constexpr unsigned n = m.size;
-        if (startsInsideNone<m>(dst, src1, count) && startsInsideNone<m>(dst, src2, count)) {
-            if (gapless<n, 1>(src1) && gapless<n, 1>(src2) && gapless<n, 1>(dst))
-                return objects<m, Overlap::none>(f, packed<n, 1>(src1), packed<n, 1>(src2), packed<n, 1>(dst),
-                                                 length, count);
-            return objects<m, Overlap::none>(f, src1, src2, dst, length, count);
-        }
+        const bool dense = gapless<n, 1>(src1) && gapless<n, 1>(src2) && gapless<n, 1>(dst);
+        const auto inOrder = [&]<Overlap overlap>() TENK_LAMBDA {
+            if (dense)
+                return objects<m, overlap>(f, packed<n, 1>(src1), packed<n, 1>(src2), packed<n, 1>(dst),
+                                           length, count);
+            return objects<m, overlap>(f, src1, src2, dst, length, count);
+        };
+        if constexpr (m.layout == Layout::Standard)
+            if (startsInsideNone<m>(dst, src1, count) && startsInsideNone<m>(dst, src2, count))
+                return inOrder.template operator()<Overlap::none>();
+        return inOrder.template operator()<Overlap::ascending>();
     }
     return objects<m, Overlap::ascending>(f, src1, src2, dst, length, count);
 }

@@ -22,6 +22,9 @@ consteval bool addsPairs(Member m)
     return m == "tenkDotProduct_vav_32f_4x1" || m == "tenkDotProduct_vav_32f_4x1_L";
 }
 
+// Whether the addresses of eight vectors find room: not on i386.
+inline constexpr bool manyRegisters = sizeof(Address) == 8;
+
 // How the objects of a batch are taken. Those of some members are read a step at a time, and their list
 // entries tested, before the first result of the step is written; in 64f that is so in Standard layout alone.
 // All others go object by object, as far as can be told; in lists it pays to find that out for each step only
@@ -37,7 +40,8 @@ consteval BatchSteps stepsOf(Member m)
         return {1, true};
     if (m.layout == Layout::Standard)
         return m.type == Type::f64 ? BatchSteps{2, false} : BatchSteps{m.size >= 4 ? 4U : 1U, false};
-    if (m == "tenkDotProduct_vav_32f_5x1_L" || m == "tenkDotProduct_vav_32f_6x1_L")
+    if (m.type == Type::f32 && m.layout == Layout::List && m.size >= 4 &&
+        (manyRegisters || !m.source(1).array))
         return {4, false};
     return {1, true};
 }
