@@ -322,6 +322,29 @@ void checkOverlapOfFixedSize(const std::string& codes, unsigned size, bool list)
         }
 }
 
+// Arrays without gaps but for one element between the objects of one operand.
+TEST(Saxpy, SeesAGapInAnyOperand)
+{
+    for (unsigned gap = 0; gap < 3; ++gap)
+        for (unsigned size : {0U, 4U}) {
+            const Floats x = {1, 2, 3, 4, 5, 6, 7, 8, 9}, y = {10, 20, 30, 40, 50, 60, 70, 80, 90};
+            Floats z(9, 0), expected(9, 0);
+            const auto at = [&](unsigned which, std::size_t k, std::size_t j) {
+                return k * (which == gap ? 5 : 4) + j;
+            };
+            for (std::size_t k = 0; k < 2; ++k)
+                for (std::size_t j = 0; j < 4; ++j)
+                    expected[at(2, k, j)] = 2 * x[at(0, k, j)] + y[at(1, k, j)];
+            const auto stride = [&](unsigned which) { return word(which == gap ? 20 : 16); };
+            EXPECT_EQ(callByName(nameOf<float>("vava", size, ""),
+                                 {{pointer(x.data()), stride(0), value(2.0F), pointer(y.data()), stride(1),
+                                   pointer(z.data()), stride(2)},
+                                  sizes(size, 4, 2)}),
+                      tenkOk);
+            EXPECT_EQ(z, expected) << "gap in operand " << gap;
+        }
+}
+
 TEST(Saxpy, OfFixedSizeOverlappingGivesTheResultOfTheAscendingLoop)
 {
     for (const char* codes : {"vav", "vava"})

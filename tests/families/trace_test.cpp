@@ -176,6 +176,24 @@ TEST(Trace, OfAnArrayBehindTablesTestsTheFirstRowAndNotTheDiagonal)
               tenkNullPointerError);
 }
 
+// Objects or rows as far apart as without gaps, but not both.
+TEST(Trace, SeesAGapBetweenRowsOrObjects)
+{
+    Floats x(40);
+    for (std::size_t j = 0; j < x.size(); ++j)
+        x[j] = static_cast<float>(j);
+    Floats t(2);
+    EXPECT_EQ(tenkTrace_ma_32f_3x3(x.data(), 36, 16, t.data(), 2), tenkOk);
+    EXPECT_EQ(t, (Floats{15, 42})); // 0 + 5 + 10, 9 + 14 + 19
+    EXPECT_EQ(tenkTrace_ma_32f_3x3(x.data(), 40, 12, t.data(), 2), tenkOk);
+    EXPECT_EQ(t, (Floats{12, 42})); // 0 + 4 + 8, 10 + 14 + 18
+    const float* const list[] = {&x[0], &x[9]};
+    EXPECT_EQ(tenkTrace_ma_32f_3x3_L(list, 0, 16, t.data(), 2), tenkOk);
+    EXPECT_EQ(t, (Floats{15, 42}));
+    EXPECT_EQ(tenkTrace_ma_32f_3x3_L(list, 4, 12, t.data(), 2), tenkOk);
+    EXPECT_EQ(t, (Floats{15, 42})); // 1 + 5 + 9, 10 + 14 + 18
+}
+
 TEST(Trace, OfAListTestsEntriesObjectByObject)
 {
     for (const std::string layout : {"_L", "_LS2"})
