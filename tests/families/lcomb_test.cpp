@@ -342,51 +342,52 @@ TEST(LComb, OfFixedSizeOneElementAboveItsSourceRunsThrough)
         EXPECT_EQ(z[j], std::ldexp(1.0F, static_cast<int>(j)));
 }
 
-// Two objects of a fixed size, at all distances in bytes of the destination from a source: the plain loop on
-// a copy of the memory.
+// Two objects of a fixed size, at all distances in bytes of the destination from a source, which may be a
+// single one, and with the destinations as far apart as the sources or farther: the plain loop on a copy of
+// the memory.
 template <typename T>
-void checkOverlapOfFixedSize(const std::string& codes, unsigned size, bool list)
+void checkOverlapOfFixedSize(const std::string& codes, unsigned size, bool list, unsigned farther)
 {
     constexpr unsigned count = 2;
+    const bool array[] = {codes != "vva", codes != "vav", true};
+    const unsigned gap[] = {size + 1, size + 1, size + 1 + farther};
     for (int bytes = -56; bytes <= 56; ++bytes)
         for (bool second : {false, true}) {
-            if (second && codes == "vav")
-                continue;
+            if (second && codes == "vav" && (list ? size == 4 : size > 3))
+                continue; // the single vector is read once
             std::vector<T> memory(64), other(64);
             std::iota(memory.begin(), memory.end(), T(1));
             std::iota(other.begin(), other.end(), T(-50));
             std::vector<T> expected = memory;
-            const unsigned gap = size + 1;
-            const auto address = [&](std::vector<T>& v, unsigned k, int offset) {
-                return reinterpret_cast<char*>(v.data() + 16 + k * gap) + offset;
-            };
-            const auto element = [&](std::vector<T>& v, unsigned k, unsigned j) {
-                return address(v, k, static_cast<int>(j * sizeof(T)));
+            const auto address = [&](unsigned which, std::vector<T>& v, unsigned k, unsigned j) {
+                const auto start =
+                    reinterpret_cast<char*>(v.data() + 16 + (array[which] ? k * gap[which] : 0) + j);
+                return which == 2 ? start + bytes : start;
             };
             for (unsigned k = 0; k < count; ++k)
                 for (unsigned j = 0; j < size; ++j) {
                     T x, y;
-                    std::memcpy(&x, element(second ? other : expected, k, j), sizeof x);
-                    std::memcpy(&y, element(second ? expected : other, codes == "vav" ? 0 : k, j), sizeof y);
+                    std::memcpy(&x, address(0, second ? other : expected, k, j), sizeof x);
+                    std::memcpy(&y, address(1, second ? expected : other, k, j), sizeof y);
                     const T product = x * T(0.5), sum = product + y * T(0.25);
-                    std::memcpy(element(expected, k, j) + bytes, &sum, sizeof sum);
+                    std::memcpy(address(2, expected, k, j), &sum, sizeof sum);
                 }
             std::vector<char*> entries[3];
-            const auto operand = [&](unsigned which, std::vector<T>& v, int offset) -> Arguments {
+            const auto operand = [&](unsigned which, std::vector<T>& v) -> Arguments {
                 for (unsigned k = 0; k < count; ++k)
-                    entries[which].push_back(address(v, k, offset));
-                if (which == 1 && codes == "vav")
-                    return {pointer(address(v, 0, offset))};
+                    entries[which].push_back(address(which, v, k, 0));
+                if (!array[which])
+                    return {pointer(entries[which][0])};
                 if (list)
                     return {pointer(entries[which].data()), word(0)};
-                return {pointer(address(v, 0, offset)), word(static_cast<std::uint32_t>(gap * sizeof(T)))};
+                return {pointer(entries[which][0]), word(static_cast<std::uint32_t>(gap[which] * sizeof(T)))};
             };
             const std::string name = nameOf<T>(codes, size, list ? "_L" : "");
-            ASSERT_EQ(callByName(name, {operand(0, second ? other : memory, 0),
+            ASSERT_EQ(callByName(name, {operand(0, second ? other : memory),
                                         {value(T(0.5))},
-                                        operand(1, second ? memory : other, 0),
+                                        operand(1, second ? memory : other),
                                         {value(T(0.25))},
-                                        operand(2, memory, bytes),
+                                        operand(2, memory),
                                         {word(count)}}),
                       tenkOk);
             ASSERT_EQ(std::memcmp(memory.data(), expected.data(), memory.size() * sizeof(T)), 0)
@@ -398,10 +399,37 @@ TEST(LComb, OfFixedSizeOverlappingGivesTheResultOfTheAscendingLoop)
 {
     for (const char* codes : {"vav", "vava"})
         for (unsigned size : {3U, 4U, 5U, 6U})
-            for (bool list : {false, true}) {
-                checkOverlapOfFixedSize<float>(codes, size, list);
-                checkOverlapOfFixedSize<double>(codes, size, list);
-            }
+            for (bool list : {false, true})
+                for (unsigned farther : {0U, 1U}) {
+                    checkOverlapOfFixedSize<float>(codes, size, list, farther);
+                    checkOverlapOfFixedSize<double>(codes, size, list, farther);
+                }
+}
+
+// Arrays without gaps but for one element between the objects of one operand, and lists of which one has a
+// shift.
+TEST(LComb, SeesAGapOrAShiftOfAnyOperand)
+{
+    const Floats x = {1, 2, 3, 4, 5, 6, 7, 8, 9}, y = {10, 20, 30, 40, 50, 60, 70, 80, 90};
+    for (unsigned which : {0U, 2U}) {
+        Floats z(9, 0), expected(9, 0);
+        const auto step = [&](unsigned operand) { return operand == which ? 5U : 4U; };
+        for (std::size_t k = 0; k < 2; ++k)
+            for (std::size_t j = 0; j < 4; ++j)
+                expected[k * step(2) + j] = 2 * x[k * step(0) + j] + 3 * y[j];
+        EXPECT_EQ(tenkLComb_vav_32f_4x1(x.data(), 4 * step(0), 2, y.data(), 3, z.data(), 4 * step(2), 2),
+                  tenkOk);
+        EXPECT_EQ(z, expected) << "gap in operand " << which;
+
+        const float* const from[] = {x.data(), x.data() + 4};
+        float* const to[] = {z.data(), z.data() + 4};
+        const auto shift = [&](unsigned operand) { return operand == which ? 1U : 0U; };
+        z.assign(9, 0), expected.assign(9, 0);
+        for (std::size_t j = 0; j < 8; ++j)
+            expected[j + shift(2)] = 2 * x[j + shift(0)] + 3 * y[j % 4];
+        EXPECT_EQ(tenkLComb_vav_32f_4x1_L(from, 4 * shift(0), 2, y.data(), 3, to, 4 * shift(2), 2), tenkOk);
+        EXPECT_EQ(z, expected) << "shift of operand " << which;
+    }
 }
 
 TEST(LComb, TestsPointersThenLengthThenTablesThenCount)

@@ -271,55 +271,65 @@ TEST(Saxpy, OfFixedSizeOneElementAboveItsSourceRunsThrough)
         EXPECT_EQ(z[j], std::ldexp(1.0F, static_cast<int>(j)));
 }
 
-// Two objects of a fixed size, at all distances in bytes of the destination from a source: the plain loop on
-// a copy of the memory.
+// Two objects of a fixed size, at all distances in bytes of the destination from a source, which may be a
+// single one, and with the destinations as far apart as the sources or farther: the plain loop on a copy of
+// the memory.
 template <typename T>
-void checkOverlapOfFixedSize(const std::string& codes, unsigned size, bool list)
+void checkOverlapOfFixedSize(const std::string& codes, unsigned size, bool list, unsigned farther)
 {
     constexpr unsigned count = 2;
+    const bool array[] = {codes != "vva", codes != "vav", true};
+    const unsigned gap[] = {size + 1, size + 1, size + 1 + farther};
     for (int bytes = -56; bytes <= 56; ++bytes)
         for (bool second : {false, true}) {
-            if (second && codes == "vav")
-                continue;
             std::vector<T> memory(64), other(64);
             std::iota(memory.begin(), memory.end(), T(1));
             std::iota(other.begin(), other.end(), T(-50));
             std::vector<T> expected = memory;
-            const unsigned gap = size + 1;
-            const auto address = [&](std::vector<T>& v, unsigned k, int offset) {
-                return reinterpret_cast<char*>(v.data() + 16 + k * gap) + offset;
-            };
-            const auto element = [&](std::vector<T>& v, unsigned k, unsigned j) {
-                return address(v, k, static_cast<int>(j * sizeof(T)));
+            const auto address = [&](unsigned which, std::vector<T>& v, unsigned k, unsigned j) {
+                const auto start =
+                    reinterpret_cast<char*>(v.data() + 16 + (array[which] ? k * gap[which] : 0) + j);
+                return which == 2 ? start + bytes : start;
             };
             for (unsigned k = 0; k < count; ++k)
                 for (unsigned j = 0; j < size; ++j) {
                     T x, y;
-                    std::memcpy(&x, element(second ? other : expected, k, j), sizeof x);
-                    std::memcpy(&y, element(second ? expected : other, codes == "vav" ? 0 : k, j), sizeof y);
+                    std::memcpy(&x, address(0, second ? other : expected, k, j), sizeof x);
+                    std::memcpy(&y, address(1, second ? expected : other, k, j), sizeof y);
                     const T product = x * T(0.5), sum = product + y;
-                    std::memcpy(element(expected, k, j) + bytes, &sum, sizeof sum);
+                    std::memcpy(address(2, expected, k, j), &sum, sizeof sum);
                 }
             std::vector<char*> entries[3];
-            const auto operand = [&](unsigned which, std::vector<T>& v, int offset) -> Arguments {
+            const auto operand = [&](unsigned which, std::vector<T>& v) -> Arguments {
                 for (unsigned k = 0; k < count; ++k)
-                    entries[which].push_back(address(v, k, offset));
-                if (which == 1 && codes == "vav")
-                    return {pointer(address(v, 0, offset))};
+                    entries[which].push_back(address(which, v, k, 0));
+                if (!array[which])
+                    return {pointer(entries[which][0])};
                 if (list)
                     return {pointer(entries[which].data()), word(0)};
-                return {pointer(address(v, 0, offset)), word(static_cast<std::uint32_t>(gap * sizeof(T)))};
+                return {pointer(entries[which][0]), word(static_cast<std::uint32_t>(gap[which] * sizeof(T)))};
             };
             const std::string name = nameOf<T>(codes, size, list ? "_L" : "");
-            ASSERT_EQ(callByName(name, {operand(0, second ? other : memory, 0),
+            ASSERT_EQ(callByName(name, {operand(0, second ? other : memory),
                                         {value(T(0.5))},
-                                        operand(1, second ? memory : other, 0),
-                                        operand(2, memory, bytes),
+                                        operand(1, second ? memory : other),
+                                        operand(2, memory),
                                         {word(count)}}),
                       tenkOk);
             ASSERT_EQ(std::memcmp(memory.data(), expected.data(), memory.size() * sizeof(T)), 0)
                 << name << ", " << bytes << " bytes apart";
         }
+}
+
+TEST(Saxpy, OfFixedSizeOverlappingGivesTheResultOfTheAscendingLoop)
+{
+    for (const char* codes : {"vav", "vva", "vava"})
+        for (unsigned size : {3U, 4U, 5U, 6U})
+            for (bool list : {false, true})
+                for (unsigned farther : {0U, 1U}) {
+                    checkOverlapOfFixedSize<float>(codes, size, list, farther);
+                    checkOverlapOfFixedSize<double>(codes, size, list, farther);
+                }
 }
 
 // Arrays without gaps but for one element between the objects of one operand.
@@ -343,16 +353,6 @@ TEST(Saxpy, SeesAGapInAnyOperand)
                       tenkOk);
             EXPECT_EQ(z, expected) << "gap in operand " << gap;
         }
-}
-
-TEST(Saxpy, OfFixedSizeOverlappingGivesTheResultOfTheAscendingLoop)
-{
-    for (const char* codes : {"vav", "vava"})
-        for (unsigned size : {3U, 4U, 5U, 6U})
-            for (bool list : {false, true}) {
-                checkOverlapOfFixedSize<float>(codes, size, list);
-                checkOverlapOfFixedSize<double>(codes, size, list);
-            }
 }
 
 TEST(Saxpy, TestsPointersThenLengthThenTablesThenCount)
