@@ -4,9 +4,9 @@
 // of both vectors have been read. Sums start from +0 and go by ascending index, but for three kinds of
 // members:
 //
-//   general vv of adjacent elements        in blocks of 8, chosen by the address of src2: see blockSum in
-//   sums.h fixed 32f of adjacent elements         the same order without the zero fixed 64f of adjacent
-//   elements         in pairs: elements of even and of odd index apart, see sumInOrder
+//  - general vv of adjacent elements go in blocks of 8, chosen by the address of src2: see blockSum;
+//  - fixed sizes of adjacent elements in 32f go in the same order without the zero;
+//  - fixed sizes of adjacent elements in 64f add elements of even and of odd index apart, see sumInOrder.
 //
 // So a sum of nothing but -0 is -0 in the last two, and +0 in all others.
 #pragma once

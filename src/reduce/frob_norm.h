@@ -1,15 +1,13 @@
 // FrobNorm: the square root of the sum of the squares of a matrix's elements.
 //
-// Squares, sums and the root are rounded one by one to the element type, and the result is written once. Two
-// kinds of members:
+// Squares, sums and the root are rounded one by one to the element type, and the result is written once.
+// Three kinds of members:
 //
-//   fixed sizes of adjacent elements       the squares of each column are added, then the columns, see
-//   columnSums and
-//                                          sumAcross; in 32f the root is refined from the processor's
-//                                          estimate
-//   all others                             one sum from +0 by ascending index, of single matrices row by row,
-//   of arrays
-//                                          column by column; the root is correctly rounded
+//  - single matrices of fixed size of adjacent elements add the squares of each column, then the columns, see
+//    columnSums and sumAcross; in 32f the root is refined from the processor's estimate;
+//  - arrays of them add full vectors, see sumByLanes, with the same root;
+//  - all others form one sum from +0 by ascending index, of single matrices row by row, of arrays column by
+//    column; the root is correctly rounded.
 //
 // So an array and a single matrix may differ in the last bit.
 #pragma once

@@ -3,8 +3,8 @@
 // Squares, sums and the root are rounded one by one to the element type, and the result is written once. Sums
 // start from +0 and go by ascending index, but for two kinds of members:
 //
-//   general v of adjacent elements         in blocks of 8, chosen by the address of src: see blockSum in
-//   sums.h fixed sizes of adjacent elements       without the zero, grouped by size, see sumInOrder
+//  - general v of adjacent elements goes in blocks of 8, chosen by the address of src: see blockSum;
+//  - fixed sizes of adjacent elements go without the zero, grouped by size, see sumInOrder.
 #pragma once
 
 #include "reduce/batch.h"
