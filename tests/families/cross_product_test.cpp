@@ -160,6 +160,22 @@ TEST(CrossProduct, ReadsASingleFirstOperandOnceBeforeTheFirstObject)
     EXPECT_EQ(doubles, (std::vector<double>{-3, 6, -3, 0, 3, -2}));
 }
 
+TEST(CrossProduct, SeesAGapInAnyOperand)
+{
+    for (unsigned which = 0; which < 3; ++which) {
+        const auto step = [&](unsigned operand) { return operand == which ? 4U : 3U; };
+        Floats a(7), b(7), z(7, 9), expected(7, 9);
+        for (std::size_t k = 0; k < 2; ++k) { // the first axis with the second is the third
+            a[k * step(0)] = 1, b[k * step(1) + 1] = 1;
+            expected[k * step(2)] = expected[k * step(2) + 1] = 0, expected[k * step(2) + 2] = 1;
+        }
+        EXPECT_EQ(tenkCrossProduct_vava_32f_3x1(a.data(), 4 * step(0), b.data(), 4 * step(1), z.data(),
+                                                4 * step(2), 2),
+                  tenkOk);
+        EXPECT_EQ(z, expected) << "gap in operand " << which;
+    }
+}
+
 TEST(CrossProduct, OfAnEmptyArrayReadsNothing)
 {
     void* const unreadable = mmap(nullptr, 4096, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);

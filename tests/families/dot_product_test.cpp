@@ -320,6 +320,16 @@ TEST(DotProduct, TestsPointersThenSizesThenTablesThenCount)
     EXPECT_EQ(s, 9.0F);
 }
 
+TEST(DotProduct, SeesAGapInEitherOperand)
+{
+    const Floats x = {1, 2, 3, 4, 5, 6, 7, 8, 9}, ones(9, 1), y = {1, 0, 0, 0, 0, 1, 0, 0, 0};
+    Floats s(2);
+    EXPECT_EQ(tenkDotProduct_vava_32f_4x1(x.data(), 16, y.data(), 20, s.data(), 2), tenkOk);
+    EXPECT_EQ(s, (Floats{1, 5}));
+    EXPECT_EQ(tenkDotProduct_vava_32f_4x1(x.data(), 20, ones.data(), 16, s.data(), 2), tenkOk);
+    EXPECT_EQ(s, (Floats{10, 30}));
+}
+
 // Two tables are tested index by index: behind a null entry of one nothing is read of the other.
 TEST(DotProduct, TestsTablesIndexByIndex)
 {

@@ -510,6 +510,17 @@ TEST(FrobNorm, OfLargerMatricesWritesEachResultBeforeItReadsTheNextEntry)
     }
 }
 
+TEST(FrobNorm, AddsTheShiftToAListOfMatricesWithoutGaps)
+{
+    std::vector<double> x(10, 2);
+    x[0] = 9;
+    const double* const list[] = {x.data(), x.data()};
+    double d[2] = {};
+    EXPECT_EQ(tenkFrobNorm_ma_64f_3x3_L(list, 8, 24, d, 2), tenkOk);
+    EXPECT_EQ(d[0], 6.0); // nine squares of 2
+    EXPECT_EQ(d[1], 6.0);
+}
+
 // Objects as far apart as without gaps, but rows that are not: 36 and 8 bytes.
 TEST(FrobNorm, SeesRowsThatOverlap)
 {
