@@ -16,10 +16,7 @@ struct Dot
         auto a = std::make_shared<Objects>(count, 1), b = std::make_shared<Objects>(count, 2);
         auto d = randomRun<T>(count);
         const auto result = std::make_tuple(d->data(), std::uint32_t{count});
-        if constexpr (array)
-            contestant(c, "tenk", bind(c.function, a->array(), b->array(), result));
-        else
-            contestant(c, "tenk", bind(c.function, a->array(), b->single(), result));
+        contestant(c, "tenk", bind(c.function, a->array(), operand<array>(*b), result));
         contestant(c, "Eigen", [=] {
             for (unsigned k = 0; k < a->count(); ++k)
                 d->data()[k] = a->eigen(k).dot(b->eigen(array ? k : 0));

@@ -19,6 +19,16 @@ std::string matrixFunction(const std::string& root, const std::string& codes)
     return "tenk" + root + "_" + codes + "_" + typeName<T>() + "_" + order + "x" + order + suffix(layout);
 }
 
+// An operand as an array, or as its first object alone.
+template <bool array, typename Objects>
+auto operand(Objects& objects)
+{
+    if constexpr (array)
+        return objects.array();
+    else
+        return objects.single();
+}
+
 template <typename T>
 using Run = Eigen::Matrix<T, Eigen::Dynamic, 1>;
 

@@ -8,8 +8,7 @@
  * Squares, sums and the root are rounded one by one to the element type, with no scaling: a square may
  * overflow or underflow. The squares are added in order to a sum that starts from +0, of a single matrix row
  * by row, of the matrices of an array column by column, and the root is the correctly rounded one. The fixed
- * sizes in Standard and _L layout stand apart. They add the squares of each column, c0, c1, ..., and then the
- * columns:
+ * sizes in Standard and _L layout stand apart. With c0, c1, ... for the sums of the squares of each column:
  *
  *   tenkFrobNorm_m_32f_3x3          (c0 + c1) + c2, with (x0 + x1) + x2 for the squares of a column
  *   tenkFrobNorm_m_64f_3x3          (c2 + c0) + c1, with the same columns

@@ -27,13 +27,18 @@ TENK_INLINE tenkStatus lcomb(Source<m> src1, Element<m> value1, Source<m, 1> src
         const R products = R::load(src2.object(0, length).start) * R::repeat(value2);
         const auto f = [c1 = combine::Constant(value1)](auto x, auto product)
                            TENK_LAMBDA { return x * c1 + product; };
-        for (std::size_t k = 0; k < count; ++k) {
-            if (anyNullObject(k, src1, dst))
-                return tenkNullPointerError;
-            combine::elements<m.size, T>(f, dst.object(k, length).start, src1.object(k, length).start,
-                                         products);
-        }
-        return tenkOk;
+        using combine::Overlap;
+        const bool dense = gapless<m.size, 1>(src1) && gapless<m.size, 1>(dst);
+        const auto inOrder = [&]<Overlap overlap>() TENK_LAMBDA {
+            if (dense)
+                return combine::objects<m, overlap>(f, packed<m.size, 1>(src1), products,
+                                                    packed<m.size, 1>(dst), count);
+            return combine::objects<m, overlap>(f, src1, products, dst, count);
+        };
+        if constexpr (m.layout == Layout::Standard)
+            if (combine::startsInsideNone<m>(dst, src1, count))
+                return inOrder.template operator()<Overlap::none>();
+        return inOrder.template operator()<Overlap::ascending>();
     } else {
         const auto f = [c1 = combine::Constant(value1), c2 = combine::Constant(value2)](auto x, auto y)
                            TENK_LAMBDA { return x * c1 + y * c2; };

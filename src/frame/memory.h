@@ -42,6 +42,14 @@ TENK_INLINE void store(Address a, T value)
     __builtin_memcpy(reinterpret_cast<void*>(a), &value, sizeof(T));
 }
 
+// As it stands: the compiler would take what it copies by way of a general register, of which i386 has few.
+template <>
+TENK_INLINE void store(Address a, float value)
+{
+    typedef float Anywhere __attribute__((may_alias, aligned(1)));
+    *reinterpret_cast<Anywhere*>(a) = value;
+}
+
 // An unsigned word of the size of an element, to move its bits without arithmetic.
 template <typename T>
 struct BitsOf;

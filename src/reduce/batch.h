@@ -2,6 +2,7 @@
 #pragma once
 
 #include "frame/checks.h"
+#include "frame/packed.h"
 #include "frame/row.h"
 
 namespace tenk {
@@ -19,6 +20,8 @@ struct BatchSteps
     // Tests of list entries and writes: of a whole step together, or as if object by object. In the latter
     // case a step is split up when somebody could tell.
     bool together;
+    // Whether the list entries of objects behind the last full step are tested.
+    bool testsRest = true;
 };
 
 // Results of `steps.objects` objects at a time, then of the rest one by one. An object or a step is read as a
@@ -41,19 +44,20 @@ TENK_INLINE tenkStatus inSteps(T* dst, std::size_t count, Null isNull, Apart isA
     while (k < count) {
         std::size_t end = count;
         if constexpr (steps.objects > 1) {
-            for (; count - k >= steps.objects; k += steps.objects) {
-                const bool null = anyNullInStep();
-                if (steps.together && null)
-                    return tenkNullPointerError;
-                if (!steps.together && (null || !isApart(k))) {
-                    end = k + steps.objects;
-                    break;
+            if (steps.together || isApart.possible)
+                for (; count - k >= steps.objects; k += steps.objects) {
+                    const bool null = anyNullInStep();
+                    if (steps.together && null)
+                        return tenkNullPointerError;
+                    if (!steps.together && (null || !isApart(k))) {
+                        end = k + steps.objects;
+                        break;
+                    }
+                    store<Vector<T>>(resultAddress(dst, k), several(k));
                 }
-                store<Vector<T>>(resultAddress(dst, k), several(k));
-            }
         }
         for (; k < end; ++k) {
-            if (isNull(k))
+            if (steps.testsRest && isNull(k))
                 return tenkNullPointerError;
             store<T>(resultAddress(dst, k), one(k));
         }
@@ -61,28 +65,27 @@ TENK_INLINE tenkStatus inSteps(T* dst, std::size_t count, Null isNull, Apart isA
     return tenkOk;
 }
 
-// The same for steps together, or for no steps.
+// For steps together, or for no steps.
+struct NoMatter
+{
+    static constexpr bool possible = true;
+    TENK_INLINE bool operator()(std::size_t) const { return true; }
+};
+
 template <unsigned step, typename T, typename Null, typename Several, typename One>
 TENK_INLINE tenkStatus inSteps(T* dst, std::size_t count, Null isNull, Several several, One one)
 {
-    const auto isApart = [](std::size_t) TENK_LAMBDA { return true; };
-    return inSteps<BatchSteps{step, true}>(dst, count, isNull, isApart, several, one);
+    return inSteps<BatchSteps{step, true}>(dst, count, isNull, NoMatter{}, several, one);
 }
 
 // ---------------------------------------------------------------------------------------------------------------
 // Whether anybody can tell that results are written a step at a time
 // ---------------------------------------------------------------------------------------------------------------
 
-// The runs of so many bytes at a and at b have no byte in common.
-TENK_INLINE bool areApart(Address a, std::size_t aBytes, Address b, std::size_t bBytes)
-{
-    return b - a + (bBytes - 1) >= aBytes + (bBytes - 1);
-}
-
 // Whether the results of a batch lie apart from the objects of a source, which have `rows` dense rows of n
-// elements. It is found out once for objects that are a step apart, and for each step of results for objects
-// in a list. The answer is no where an object or the batch goes backwards or might wrap around the end of
-// memory.
+// elements. It is found out once for objects that are a step apart, and for objects in a list once for the
+// list and then for each step of results. The answer is no where an object or the batch goes backwards or
+// might wrap around the end of memory.
 template <unsigned rows, unsigned n, unsigned step, typename O>
 struct Apart
 {
@@ -92,33 +95,46 @@ struct Apart
     const O& source;
     Address results;
     std::size_t bytes; // of an object
-    bool known;
+    bool possible;
 
     TENK_INLINE Apart(const O& o, const T* dst, std::size_t count) : source(o), results(resultAddress(dst, 0))
     {
-        const std::uint64_t object =
-            static_cast<std::uint64_t>(o.stride1) * (rows - 1) + std::uint64_t{n * sizeof(T)};
-        const std::uint64_t all = object + static_cast<std::uint64_t>(o.stride0) * (count - 1);
+        std::uint64_t object = n * sizeof(T);
+        if constexpr (rows > 1)
+            object += static_cast<std::uint64_t>(o.stride1) * (rows - 1);
         bytes = static_cast<std::size_t>(object);
-        known = o.stride1 >= 0 && o.stride0 >= 0 && count != 0 && object < most && count * sizeof(T) < most;
-        if constexpr (!O::list)
-            known = known && all < most &&
-                    areApart(results, count * sizeof(T), o.p, static_cast<std::size_t>(all));
+        possible =
+            o.stride1 >= 0 && o.stride0 >= 0 && count != 0 && object < most && count * sizeof(T) < most;
+        if constexpr (O::list) {
+            possible = possible && areApart(results, count * sizeof(T), o.p, count * sizeof(Address));
+        } else {
+            const std::uint64_t all = object + static_cast<std::uint64_t>(o.stride0) * (count - 1);
+            possible = possible && all < most &&
+                       areApart(results, count * sizeof(T), o.p, static_cast<std::size_t>(all));
+        }
     }
 
     TENK_INLINE bool operator()(std::size_t k) const
     {
-        bool apart = known;
-        if constexpr (O::list) {
-            const Address written = results + k * sizeof(T);
-            apart = apart && areApart(written, step * sizeof(T), source.p + k * sizeof(Address),
-                                      step * sizeof(Address));
-            each<step>([&](auto i) TENK_LAMBDA {
-                apart = apart && areApart(written, step * sizeof(T), source.object(k + i, n).start, bytes);
+        bool apart = true;
+        if constexpr (O::list)
+            each<step - 1>([&](auto i) TENK_LAMBDA { // the first object is read before any result is written
+                apart = apart && areApart(results + k * sizeof(T), step * sizeof(T),
+                                          source.object(k + i + 1, n).start, bytes);
             });
-        }
         return apart;
     }
+};
+
+// The same of two sources.
+template <typename A, typename B>
+struct BothApart
+{
+    const A& first;
+    const B& second;
+    bool possible = first.possible && second.possible;
+
+    TENK_INLINE bool operator()(std::size_t k) const { return first(k) && second(k); }
 };
 
 } // namespace tenk

@@ -7,6 +7,7 @@
 #pragma once
 
 #include "frame/checks.h"
+#include "frame/packed.h"
 #include "frame/row.h"
 
 namespace tenk::cross {
@@ -83,29 +84,20 @@ struct Elements
     }
 };
 
-} // namespace tenk::cross
-
-namespace tenk {
-
+// One product after the other, but for those of a step.
 template <Member m>
-TENK_INLINE tenkStatus crossProduct(Source<m> src1, Source<m, 1> src2, Destination<m> dst, Count<m> count)
+TENK_INLINE tenkStatus products(const Source<m>& src1, const Source<m, 1>& src2, const Destination<m>& dst,
+                                Count<m> count)
 {
     using T = Element<m>;
     constexpr bool single1 = m.batch() && !m.source(0).array;
     constexpr bool single2 = m.batch() && !m.source(1).array;
-    if (anyNull(src1, src2, dst))
-        return tenkNullPointerError;
-    if (anyNullEntryOf(3, src1, src2, dst))
-        return tenkNullPointerError;
-    if (count == 0)
-        return tenkOk;
-
     // What is read once, in the form in which the kernel takes it.
     const auto read = [](const auto& view) TENK_LAMBDA {
         if constexpr (isDense(m.layout))
-            return cross::loadTurned<T>(view.start);
+            return loadTurned<T>(view.start);
         else
-            return cross::Elements<T>::load(view);
+            return Elements<T>::load(view);
     };
     using Operands = decltype(read(src1.object(0, 3)));
     Operands kept1, kept2;
@@ -119,11 +111,10 @@ TENK_INLINE tenkStatus crossProduct(Source<m> src1, Source<m, 1> src2, Destinati
                               TENK_LAMBDA { return single2 ? kept2 : read(src2.object(k, 3)); };
 
     std::size_t k = 0;
-    if constexpr (constexpr unsigned step = cross::objectsPerStep(m); step > 1)
+    if constexpr (constexpr unsigned step = objectsPerStep(m); step > 1)
         for (; count - k >= step; k += step) {
             Row<T, 3> result[step];
-            each<step>([&](auto n)
-                           TENK_LAMBDA { result[n] = cross::product(operand1(k + n), operand2(k + n)); });
+            each<step>([&](auto n) TENK_LAMBDA { result[n] = product(operand1(k + n), operand2(k + n)); });
             each<step>([&](auto n) TENK_LAMBDA { result[n].store(dst.object(k + n, 3).start); });
         }
     for (; k < count; ++k) {
@@ -131,25 +122,45 @@ TENK_INLINE tenkStatus crossProduct(Source<m> src1, Source<m, 1> src2, Destinati
             return tenkNullPointerError;
         const auto to = dst.object(k, 3);
         if constexpr (isDense(m.layout)) {
-            cross::product(operand1(k), operand2(k)).store(to.start);
+            product(operand1(k), operand2(k)).store(to.start);
         } else {
             auto a = operand1(k);
             auto b = operand2(k);
             T result[3];
             each<3>([&](auto j) TENK_LAMBDA {
-                if constexpr (cross::writesInTurn(m) && j != 0) {
+                if constexpr (writesInTurn(m) && j != 0) {
                     a = operand1(k);
                     b = operand2(k);
                 }
-                result[j] = cross::component<j>(a.element, b.element);
-                if constexpr (cross::writesInTurn(m))
+                result[j] = component<j>(a.element, b.element);
+                if constexpr (writesInTurn(m))
                     store<T>(to.at(0, j), result[j]);
             });
-            if constexpr (!cross::writesInTurn(m))
+            if constexpr (!writesInTurn(m))
                 each<3>([&](auto j) TENK_LAMBDA { store<T>(to.at(0, j), result[j]); });
         }
     }
     return tenkOk;
+}
+
+} // namespace tenk::cross
+
+namespace tenk {
+
+template <Member m>
+TENK_INLINE tenkStatus crossProduct(Source<m> src1, Source<m, 1> src2, Destination<m> dst, Count<m> count)
+{
+    if (anyNull(src1, src2, dst))
+        return tenkNullPointerError;
+    if (anyNullEntryOf(3, src1, src2, dst))
+        return tenkNullPointerError;
+    if (count == 0)
+        return tenkOk;
+
+    if constexpr (isDense(m.layout) && m.batch())
+        if (gapless<3, 1>(src1) && gapless<3, 1>(src2) && gapless<3, 1>(dst))
+            return cross::products<m>(packed<3, 1>(src1), packed<3, 1>(src2), packed<3, 1>(dst), count);
+    return cross::products<m>(src1, src2, dst, count);
 }
 
 } // namespace tenk

@@ -4,9 +4,9 @@
 // of both vectors have been read. Sums start from +0 and go by ascending index, but for three kinds of
 // members:
 //
-//   general vv of adjacent elements        in blocks of 8, chosen by the address of src2: see blockSum in
-//   sums.h fixed 32f of adjacent elements         the same order without the zero fixed 64f of adjacent
-//   elements         in pairs: elements of even and of odd index apart, see sumInOrder
+//  - general vv of adjacent elements go in blocks of 8, chosen by the address of src2: see blockSum;
+//  - fixed sizes of adjacent elements in 32f go in the same order without the zero;
+//  - fixed sizes of adjacent elements in 64f add elements of even and of odd index apart, see sumInOrder.
 //
 // So a sum of nothing but -0 is -0 in the last two, and +0 in all others.
 #pragma once
@@ -22,10 +22,13 @@ consteval bool addsPairs(Member m)
     return m == "tenkDotProduct_vav_32f_4x1" || m == "tenkDotProduct_vav_32f_4x1_L";
 }
 
+// Whether the addresses of eight vectors find room: not on i386.
+inline constexpr bool manyRegisters = sizeof(Address) == 8;
+
 // How the objects of a batch are taken. Those of some members are read a step at a time, and their list
 // entries tested, before the first result of the step is written; in 64f that is so in Standard layout alone.
-// All others go object by object, as far as can be told; in lists it does not pay to find that out for each
-// step.
+// All others go object by object, as far as can be told; in lists it pays to find that out for each step only
+// where the sums are long.
 consteval BatchSteps stepsOf(Member m)
 {
     if (m == "tenkDotProduct_vav_32f_3x1" || m == "tenkDotProduct_vav_32f_3x1_L" ||
@@ -33,7 +36,12 @@ consteval BatchSteps stepsOf(Member m)
         return {4, true};
     if (m == "tenkDotProduct_vav_64f_3x1")
         return {2, true};
-    if (m.type == Type::f32 && m.batch() && m.size >= 4 && m.layout == Layout::Standard)
+    if (!m.batch() || m.general())
+        return {1, true};
+    if (m.layout == Layout::Standard)
+        return m.type == Type::f64 ? BatchSteps{2, false} : BatchSteps{m.size >= 4 ? 4U : 1U, false};
+    if (m.type == Type::f32 && m.layout == Layout::List && m.size >= 4 &&
+        (manyRegisters || !m.source(1).array))
         return {4, false};
     return {1, true};
 }
@@ -74,10 +82,18 @@ TENK_INLINE auto sumsOfStep(X x, Y y)
     using R = Row<Element<m>, m.size>;
     const auto products = [&](auto i) TENK_LAMBDA { return R::load(x(i)) * R::load(y(i)); };
     if constexpr (m.type == Type::f64) {
-        static_assert(m.size == 3);
         const R p[2] = {products(index<0>), products(index<1>)};
-        const auto s = evenAndOdd(p[0], p[1]);
-        return (s.even + s.odd) + Vector<double>{p[0].rest, p[1].rest};
+        if constexpr (m.size == 6) {
+            const auto a = p[0].vector[0] + (p[0].vector[1] + p[0].vector[2]);
+            const auto b = p[1].vector[0] + (p[1].vector[1] + p[1].vector[2]);
+            return shuffle<0, 2>(a, b) + shuffle<1, 3>(a, b);
+        } else {
+            const auto s = evenAndOdd(p[0], p[1]);
+            if constexpr (m.size == 4)
+                return s.even + s.odd;
+            else
+                return (s.even + s.odd) + Vector<double>{p[0].rest, p[1].rest};
+        }
     } else {
         const R p[4] = {products(index<0>), products(index<1>), products(index<2>), products(index<3>)};
         if constexpr (addsPairs(m))
@@ -90,41 +106,28 @@ TENK_INLINE auto sumsOfStep(X x, Y y)
     }
 }
 
-} // namespace tenk::dot
-
-namespace tenk {
-
 template <Member m>
-TENK_INLINE tenkStatus dotProduct(Source<m> src1, Source<m, 1> src2, Element<m>* dst, Size<m> length,
-                                  Count<m> count)
+TENK_INLINE tenkStatus products(const Source<m>& src1, const Source<m, 1>& src2, Element<m>* dst,
+                                Size<m> length, Count<m> count)
 {
     using T = Element<m>;
-    if (anyNull(src1, src2, dst))
-        return tenkNullPointerError;
-    if (anyZero(length))
-        return tenkSizeError;
-    // For a single pair this is as good as testing each entry when its element is due: nothing has been
-    // written then.
-    if (anyNullEntryOf(length, src1, src2))
-        return tenkNullPointerError;
-
     constexpr bool adjacent = isDense(m.layout) && !m.general();
-    constexpr BatchSteps steps = dot::stepsOf(m);
+    constexpr BatchSteps steps = stepsOf(m);
     constexpr unsigned n = m.general() ? 1 : m.size;
     const Apart<1, n, steps.objects, Source<m>> apart1(src1, dst, count);
     const Apart<1, n, steps.objects, Source<m, 1>> apart2(src2, dst, count);
     return inSteps<steps>(
         dst, count, [&](std::size_t k) TENK_LAMBDA { return anyNullObject(k, src1, src2); },
-        [&](std::size_t k) TENK_LAMBDA { return apart1(k) && apart2(k); },
+        BothApart<decltype(apart1), decltype(apart2)>{apart1, apart2},
         [&](auto k) TENK_LAMBDA {
-            return dot::sumsOfStep<m>([&](std::size_t i) TENK_LAMBDA { return src1.object(k + i, n).start; },
-                                      [&](std::size_t i) TENK_LAMBDA { return src2.object(k + i, n).start; });
+            return sumsOfStep<m>([&](std::size_t i) TENK_LAMBDA { return src1.object(k + i, n).start; },
+                                 [&](std::size_t i) TENK_LAMBDA { return src2.object(k + i, n).start; });
         },
         [&](std::size_t k) TENK_LAMBDA -> T {
             const auto x = src1.object(k, length);
             const auto y = src2.object(k, length);
             if constexpr (adjacent) {
-                return dot::sumInOrder<m>(x.start, y.start);
+                return sumInOrder<m>(x.start, y.start);
             } else if constexpr (isDense(m.layout) && !m.batch()) {
                 return blockSum<T>(x.start, y.start, length);
             } else {
@@ -134,6 +137,29 @@ TENK_INLINE tenkStatus dotProduct(Source<m> src1, Source<m, 1> src2, Element<m>*
                 return s;
             }
         });
+}
+
+} // namespace tenk::dot
+
+namespace tenk {
+
+template <Member m>
+TENK_INLINE tenkStatus dotProduct(Source<m> src1, Source<m, 1> src2, Element<m>* dst, Size<m> length,
+                                  Count<m> count)
+{
+    if (anyNull(src1, src2, dst))
+        return tenkNullPointerError;
+    if (anyZero(length))
+        return tenkSizeError;
+    // For a single pair this is as good as testing each entry when its element is due: nothing has been
+    // written then.
+    if (anyNullEntryOf(length, src1, src2))
+        return tenkNullPointerError;
+
+    if constexpr (isDense(m.layout) && !m.general() && m.batch())
+        if (gapless<m.size, 1>(src1) && gapless<m.size, 1>(src2))
+            return dot::products<m>(packed<m.size, 1>(src1), packed<m.size, 1>(src2), dst, length, count);
+    return dot::products<m>(src1, src2, dst, length, count);
 }
 
 } // namespace tenk

@@ -1,15 +1,13 @@
 // FrobNorm: the square root of the sum of the squares of a matrix's elements.
 //
-// Squares, sums and the root are rounded one by one to the element type, and the result is written once. Two
-// kinds of members:
+// Squares, sums and the root are rounded one by one to the element type, and the result is written once.
+// Three kinds of members:
 //
-//   fixed sizes of adjacent elements       the squares of each column are added, then the columns, see
-//   columnSums and
-//                                          sumAcross; in 32f the root is refined from the processor's
-//                                          estimate
-//   all others                             one sum from +0 by ascending index, of single matrices row by row,
-//   of arrays
-//                                          column by column; the root is correctly rounded
+//  - single matrices of fixed size of adjacent elements add the squares of each column, then the columns, see
+//    columnSums and sumAcross; in 32f the root is refined from the processor's estimate;
+//  - arrays of them add full vectors, see sumByLanes, with the same root;
+//  - all others form one sum from +0 by ascending index, of single matrices row by row, of arrays column by
+//    column; the root is correctly rounded.
 //
 // So an array and a single matrix may differ in the last bit.
 #pragma once
@@ -32,23 +30,15 @@ consteval bool refinesEstimate(Member m)
 }
 
 // How the objects of a batch are taken: those of 3 x 3 and 4 x 4 are read a step at a time, and their list
-// entries tested, before the first result of the step is written. All others go object by object, as far as
-// can be told; in 64f it does not pay to find that out for each step of a list.
+// entries tested, before the first result of the step is written; the entries of the objects behind the last
+// full step are not tested, and a null one is used as an address. All others go object by object, as far as
+// can be told.
 consteval BatchSteps stepsOf(Member m)
 {
     const bool small = m.size <= 4;
     if (!m.batch() || !isOfRows(m))
-        return {1, true};
-    if (m.type == Type::f32)
-        return {4, small};
-    return {small || m.layout == Layout::Standard ? 2U : 1U, small};
-}
-
-// Lists that are worked through in steps test no entry of the objects behind the last full step: a null entry
-// there is used as an address.
-consteval bool testsRest(Member m)
-{
-    return !(stepsOf(m).objects > 1 && stepsOf(m).together);
+        return {.objects = 1, .together = true};
+    return {.objects = m.type == Type::f32 ? 4U : 2U, .together = small, .testsRest = !small};
 }
 
 // The sums of the squares of each column, one column per lane.
@@ -94,30 +84,8 @@ TENK_INLINE T sumAcross(const Row<T, n>& c)
         return (even + c.get(index<4>)) + (odd + c.get(index<5>));
 }
 
-// The same for a whole step, one object per lane.
-TENK_INLINE Vector<double> sumsAcross(const Row<double, 3> (&c)[2])
-{
-    const auto c0 = shuffle<0, 2>(c[0].vector[0], c[1].vector[0]);
-    const auto c1 = shuffle<1, 3>(c[0].vector[0], c[1].vector[0]);
-    return (Vector<double>{c[0].rest, c[1].rest} + c0) + c1;
-}
-template <unsigned n>
-TENK_INLINE Vector<double> sumsAcross(const Row<double, n> (&c)[2])
-{
-    auto first = c[0].vector[0] + c[0].vector[1];
-    auto second = c[1].vector[0] + c[1].vector[1];
-    if constexpr (n == 6) {
-        first = first + c[0].vector[2];
-        second = second + c[1].vector[2];
-    }
-    const auto sums = shuffle<0, 2>(first, second) + shuffle<1, 3>(first, second);
-    if constexpr (n == 5)
-        return sums + Vector<double>{c[0].rest, c[1].rest};
-    return sums;
-}
-
 // ---------------------------------------------------------------------------------------------------------------
-// Arrays of 32f: the elements of a matrix, row after row, in quads of four lanes
+// Arrays: the elements of a matrix, row after row, in full vectors
 // ---------------------------------------------------------------------------------------------------------------
 
 // Elements e and e + 1 as lanes 0 1 0 1.
@@ -132,61 +100,82 @@ TENK_INLINE Vector<float> pairOf(const View& view)
     }
 }
 
-// Elements e to e + 3.
-template <unsigned n, unsigned e, bool gapless, typename View>
-TENK_INLINE Vector<float> quadOf(const View& view)
+// The vector from element e on.
+template <typename T, unsigned n, unsigned e, bool dense, typename View>
+TENK_INLINE Vector<T> vectorOf(const View& view)
 {
-    if constexpr (gapless)
-        return loadVector<float>(view.start + e * sizeof(float));
-    else if constexpr (e % n + 3 < n)
-        return loadVector<float>(view.at(e / n, e % n));
+    if constexpr (dense)
+        return loadVector<T>(view.start + e * sizeof(T));
+    else if constexpr (e % n + lanes<T> <= n)
+        return loadVector<T>(view.at(e / n, e % n));
+    else if constexpr (sizeof(T) == 8)
+        return Vector<T>{load<T>(view.at(e / n, e % n)), load<T>(view.at(e / n + 1, 0))};
     else if constexpr (e % n + 1 < n && (e + 2) % n + 1 < n)
         return loadHalves(view.at(e / n, e % n), view.at((e + 2) / n, (e + 2) % n));
     else
         return lowHalves(pairOf<n, e>(view), pairOf<n, e + 2>(view));
 }
 
-// The sum of the squares of `quads` quads from quad `first` on, by lanes, halves before wholes.
-template <unsigned n, unsigned first, unsigned quads, bool gapless, typename View>
-TENK_INLINE Vector<float> quadSums(const View& view)
+// The sum of the squares of `vectors` vectors from vector `first` on, by lanes, halves before wholes.
+template <typename T, unsigned n, unsigned first, unsigned vectors, bool dense, typename View>
+TENK_INLINE Vector<T> sumOfVectors(const View& view)
 {
-    if constexpr (quads == 1) {
-        const auto v = quadOf<n, first * 4, gapless>(view);
+    if constexpr (vectors == 1) {
+        const auto v = vectorOf<T, n, first * lanes<T>, dense>(view);
         return v * v;
     } else {
-        constexpr unsigned left = quads / 2;
-        return quadSums<n, first, left, gapless>(view) +
-               quadSums<n, first + left, quads - left, gapless>(view);
+        constexpr unsigned left = vectors / 2;
+        return sumOfVectors<T, n, first, left, dense>(view) +
+               sumOfVectors<T, n, first + left, vectors - left, dense>(view);
     }
 }
-
-// The sum over one matrix: lanes 0 + 2 and 1 + 3 first, and the last element of an odd order at the end.
-template <unsigned n, bool gapless, typename View>
-TENK_INLINE float sumByQuads(const View& view)
+template <typename T, unsigned n, bool dense, typename View>
+TENK_INLINE Vector<T> sumByLanes(const View& view)
 {
-    const auto s = quadSums<n, 0, n * n / 4, gapless>(view);
-    const float sum = (s[0] + s[2]) + (s[1] + s[3]);
+    return sumOfVectors<T, n, 0, n * n / lanes<T>, dense>(view);
+}
+
+// The sum over one matrix: the lanes, of four 0 + 2 and 1 + 3 first, and the last element of an odd order at
+// the end.
+template <typename T, unsigned n, bool dense, typename View>
+TENK_INLINE T sumOfOne(const View& view)
+{
+    const auto s = sumByLanes<T, n, dense>(view);
+    T sum;
+    if constexpr (lanes<T> == 4)
+        sum = (s[0] + s[2]) + (s[1] + s[3]);
+    else
+        sum = s[0] + s[1];
     if constexpr (n % 2 == 0)
         return sum;
-    const float last = load<float>(view.at(n - 1, n - 1));
+    const T last = load<T>(view.at(n - 1, n - 1));
     return sum + last * last;
 }
 
-// The same for four matrices, one per lane; view(i) is the view of one.
-template <unsigned n, bool gapless, typename Views>
-TENK_INLINE Vector<float> sumsByQuads(Views view)
+// The same for as many matrices as a vector has lanes; view(i) is the view of one.
+template <typename T, unsigned n, bool dense, typename Views>
+TENK_INLINE Vector<T> sumsOfStep(Views view)
 {
-    const auto evenAndOdd = [&](auto i) TENK_LAMBDA {
-        const auto a = quadSums<n, 0, n * n / 4, gapless>(view(i));
-        const auto b = quadSums<n, 0, n * n / 4, gapless>(view(i + 1));
-        return lowHalves(a, b) + highHalves(a, b);
-    };
-    const auto sums = sumNeighbours(evenAndOdd(index<0>), evenAndOdd(index<2>));
+    const auto byLanes = [&](std::size_t i) TENK_LAMBDA { return sumByLanes<T, n, dense>(view(i)); };
+    const auto lastOf = [&](std::size_t i) TENK_LAMBDA { return load<T>(view(i).at(n - 1, n - 1)); };
+    Vector<T> sums, last{};
+    if constexpr (lanes<T> == 4) {
+        const auto evenAndOdd = [&](std::size_t i) TENK_LAMBDA {
+            const auto a = byLanes(i), b = byLanes(i + 1);
+            return lowHalves(a, b) + highHalves(a, b);
+        };
+        sums = sumNeighbours(evenAndOdd(0), evenAndOdd(2));
+        if constexpr (n % 2 != 0)
+            last = Vector<T>{lastOf(0), lastOf(1), lastOf(2), lastOf(3)};
+    } else {
+        const auto a = byLanes(0), b = byLanes(1);
+        sums = shuffle<0, 2>(a, b) + shuffle<1, 3>(a, b);
+        if constexpr (n % 2 != 0)
+            last = Vector<T>{lastOf(0), lastOf(1)};
+    }
     if constexpr (n % 2 == 0)
         return sums;
-    const auto last = [&](std::size_t i) TENK_LAMBDA { return load<float>(view(i).at(n - 1, n - 1)); };
-    const Vector<float> lasts = {last(0), last(1), last(2), last(3)};
-    return sums + lasts * lasts;
+    return sums + last * last;
 }
 
 // ---------------------------------------------------------------------------------------------------------------
@@ -202,37 +191,23 @@ TENK_INLINE auto rootOf(auto s)
         return root(s);
 }
 
-// gapless: rows follow each other without a gap, and objects do, too, unless they are in a list.
-template <Member m, bool gapless>
-TENK_INLINE tenkStatus normsOfRows(Source<m> src, Element<m>* dst, std::size_t count)
+// dense: rows follow each other without a gap.
+template <Member m, bool dense>
+TENK_INLINE tenkStatus normsOfRows(const Source<m>& src, Element<m>* dst, std::size_t count)
 {
     using T = Element<m>;
-    using S = Source<m>;
     constexpr unsigned n = m.size;
     constexpr BatchSteps steps = stepsOf(m);
-    constexpr bool quads = m.batch() && m.type == Type::f32;
-    if constexpr (gapless) {
-        src.stride1 = n * sizeof(T);
-        if constexpr (!S::list)
-            src.stride0 = n * n * sizeof(T);
-    }
-    const std::size_t tested = testsRest(m) ? count : count / steps.objects * steps.objects;
     const auto view = [&](std::size_t k) TENK_LAMBDA { return src.object(k, n); };
     return inSteps<steps>(
-        dst, count, [&](std::size_t k) TENK_LAMBDA { return k < tested && anyNullObject(k, src); },
-        Apart<n, n, steps.objects, S>(src, dst, count),
+        dst, count, [&](std::size_t k) TENK_LAMBDA { return anyNullObject(k, src); },
+        Apart<n, n, steps.objects, Source<m>>(src, dst, count),
         [&](auto k) TENK_LAMBDA {
-            if constexpr (quads) {
-                return rootOf<m>(
-                    sumsByQuads<n, gapless>([&](std::size_t i) TENK_LAMBDA { return view(k + i); }));
-            } else {
-                const Row<T, n> c[] = {columnSums<T, n>(view(k)), columnSums<T, n>(view(k + 1))};
-                return rootOf<m>(sumsAcross(c));
-            }
+            return rootOf<m>(sumsOfStep<T, n, dense>([&](std::size_t i) TENK_LAMBDA { return view(k + i); }));
         },
         [&](std::size_t k) TENK_LAMBDA {
-            if constexpr (quads)
-                return rootOf<m>(sumByQuads<n, gapless>(view(k)));
+            if constexpr (m.batch())
+                return rootOf<m>(sumOfOne<T, n, dense>(view(k)));
             else
                 return rootOf<m>(sumAcross(columnSums<T, n>(view(k))));
         });
@@ -259,9 +234,8 @@ TENK_INLINE tenkStatus frobNorm(Source<m> src, Size<m> width, Size<m> height, El
                     return tenkNullPointerError;
 
     if constexpr (frob::isOfRows(m)) {
-        constexpr Displacement row = m.size * sizeof(T);
-        if (src.stride1 == row && m.batch() && (src.list || src.stride0 == m.size * row))
-            return frob::normsOfRows<m, true>(src, dst, count);
+        if (m.batch() && gapless<m.size>(src))
+            return frob::normsOfRows<m, true>(packed<m.size>(src), dst, count);
         return frob::normsOfRows<m, false>(src, dst, count);
     }
     return inSteps<1>(

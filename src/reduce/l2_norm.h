@@ -3,8 +3,8 @@
 // Squares, sums and the root are rounded one by one to the element type, and the result is written once. Sums
 // start from +0 and go by ascending index, but for two kinds of members:
 //
-//   general v of adjacent elements         in blocks of 8, chosen by the address of src: see blockSum in
-//   sums.h fixed sizes of adjacent elements       without the zero, grouped by size, see sumInOrder
+//  - general v of adjacent elements goes in blocks of 8, chosen by the address of src: see blockSum;
+//  - fixed sizes of adjacent elements go without the zero, grouped by size, see sumInOrder.
 #pragma once
 
 #include "reduce/batch.h"
@@ -131,42 +131,29 @@ requires(m.type == Type::f64) TENK_INLINE Vector<double> sumsOfStep(X x)
     }
 }
 
-} // namespace tenk::l2
-
-namespace tenk {
-
 template <Member m>
-TENK_INLINE tenkStatus l2Norm(Source<m> src, Element<m>* dst, Size<m> length, Count<m> count)
+TENK_INLINE tenkStatus norms(const Source<m>& src, Element<m>* dst, Size<m> length, Count<m> count)
 {
     using T = Element<m>;
-    if (anyNull(src, dst))
-        return tenkNullPointerError;
-    if (anyZero(length))
-        return tenkSizeError;
-    // For a single vector this is as good as testing each entry when its element is due: nothing has been
-    // written then.
-    if (anyNullEntry(src, length))
-        return tenkNullPointerError;
-
-    constexpr BatchSteps steps = l2::stepsOf(m);
+    constexpr BatchSteps steps = stepsOf(m);
     constexpr unsigned n = m.general() ? 1 : m.size;
     return inSteps<steps>(
         dst, count, [&](std::size_t k) TENK_LAMBDA { return anyNullObject(k, src); },
         Apart<1, n, steps.objects, Source<m>>(src, dst, count),
         [&](auto k) TENK_LAMBDA {
             const auto sums =
-                l2::sumsOfStep<m>([&](std::size_t i) TENK_LAMBDA { return src.object(k + i, n).start; });
-            if constexpr (l2::refinesEstimate(m))
+                sumsOfStep<m>([&](std::size_t i) TENK_LAMBDA { return src.object(k + i, n).start; });
+            if constexpr (refinesEstimate(m))
                 return refinedRoot(sums);
             else
                 return root(sums);
         },
         [&](std::size_t k) TENK_LAMBDA -> T {
             const auto x = src.object(k, length);
-            if constexpr (l2::refinesEstimate(m)) {
-                return refinedRoot(l2::sumOfSquares<m>(x.start));
+            if constexpr (refinesEstimate(m)) {
+                return refinedRoot(sumOfSquares<m>(x.start));
             } else if constexpr (isDense(m.layout) && !m.general()) {
-                return root(l2::sumOfSquares<m>(x.start));
+                return root(sumOfSquares<m>(x.start));
             } else if constexpr (isDense(m.layout) && !m.batch()) {
                 return root(blockSum<T>(x.start, x.start, length));
             } else {
@@ -178,6 +165,28 @@ TENK_INLINE tenkStatus l2Norm(Source<m> src, Element<m>* dst, Size<m> length, Co
                 return root(s);
             }
         });
+}
+
+} // namespace tenk::l2
+
+namespace tenk {
+
+template <Member m>
+TENK_INLINE tenkStatus l2Norm(Source<m> src, Element<m>* dst, Size<m> length, Count<m> count)
+{
+    if (anyNull(src, dst))
+        return tenkNullPointerError;
+    if (anyZero(length))
+        return tenkSizeError;
+    // For a single vector this is as good as testing each entry when its element is due: nothing has been
+    // written then.
+    if (anyNullEntry(src, length))
+        return tenkNullPointerError;
+
+    if constexpr (isDense(m.layout) && !m.general() && m.batch())
+        if (gapless<m.size, 1>(src))
+            return l2::norms<m>(packed<m.size, 1>(src), dst, length, count);
+    return l2::norms<m>(src, dst, length, count);
 }
 
 } // namespace tenk

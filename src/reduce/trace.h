@@ -21,6 +21,25 @@ consteval bool testsFirstRow(Member m)
     return isTable(m.layout) && m.batch();
 }
 
+// The sum of the diagonal of each object, without a start value.
+template <Member m>
+TENK_INLINE tenkStatus tracesAtOnce(const Source<m>& src, Element<m>* dst, std::size_t count)
+{
+    using T = Element<m>;
+    const Displacement next = src.stride1 + Displacement{sizeof(T)};
+    const auto traceOf = [&](std::size_t k) TENK_LAMBDA {
+        Address at = src.object(k, m.size).start;
+        T sum = load<T>(at);
+        each<m.size - 1>([&](auto) TENK_LAMBDA {
+            at += static_cast<Address>(next);
+            sum = sum + load<T>(at);
+        });
+        return sum;
+    };
+    return inSteps<1>(
+        dst, count, [&](std::size_t k) TENK_LAMBDA { return anyNullObject(k, src); }, Nothing{}, traceOf);
+}
+
 template <Member m>
 TENK_INLINE tenkStatus trace(Source<m> src, Size<m> order, Element<m>* dst, Count<m> count)
 {
@@ -32,16 +51,15 @@ TENK_INLINE tenkStatus trace(Source<m> src, Size<m> order, Element<m>* dst, Coun
     if (testsFirstRow(m) && anyNullEntry(src, order))
         return tenkNullPointerError;
 
-    for (std::size_t k = 0; k < count; ++k) {
-        if (anyNullObject(k, src))
-            return tenkNullPointerError;
-        const auto from = src.object(k, order);
-        const Address result = resultAddress(dst, k);
-        if constexpr (writesTraceOnce(m)) {
-            T sum = load<T>(from.at(0, 0));
-            each<m.size - 1>([&](auto i) TENK_LAMBDA { sum = sum + load<T>(from.at(i + 1, i + 1)); });
-            store<T>(result, sum);
-        } else {
+    if constexpr (writesTraceOnce(m)) {
+        return gapless<m.size>(src) ? tracesAtOnce<m>(packed<m.size>(src), dst, count)
+                                    : tracesAtOnce<m>(src, dst, count);
+    } else {
+        for (std::size_t k = 0; k < count; ++k) {
+            if (anyNullObject(k, src))
+                return tenkNullPointerError;
+            const auto from = src.object(k, order);
+            const Address result = resultAddress(dst, k);
             T sum = 0;
             store<T>(result, sum);
             for (std::size_t i = 0; i < order; ++i) {
@@ -52,8 +70,8 @@ TENK_INLINE tenkStatus trace(Source<m> src, Size<m> order, Element<m>* dst, Coun
                 store<T>(result, sum);
             }
         }
+        return tenkOk;
     }
-    return tenkOk;
 }
 
 } // namespace tenk

@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 #include <limits>
 #include <random>
+#include <sys/mman.h>
 #include <vector>
 
 #include "support/objects.h"
@@ -141,6 +142,69 @@ TEST(CrossProduct, ReadsASingleOperandOnceBeforeTheFirstObject)
     EXPECT_EQ(memory[2], (Floats{-3, 5}));
 }
 
+TEST(CrossProduct, ReadsASingleFirstOperandOnceBeforeTheFirstObject)
+{
+    const Floats b = {4, 5, 6, 1, 0, 0};
+    Floats memory = {1, 2, 3, 0, 0, 0}; // the first result overwrites the single operand
+    EXPECT_EQ(tenkCrossProduct_vva_32f_3x1(memory.data(), b.data(), 12, memory.data(), 12, 2), tenkOk);
+    EXPECT_EQ(memory, (Floats{-3, 6, -3, 0, 3, -2})); // (1, 2, 3) x (1, 0, 0)
+    memory = {1, 2, 3, 0, 0, 0};
+    const float* const from[] = {&b[0], &b[3]};
+    float* const to[] = {&memory[0], &memory[3]};
+    EXPECT_EQ(tenkCrossProduct_vva_32f_3x1_L(memory.data(), from, 0, to, 0, 2), tenkOk);
+    EXPECT_EQ(memory, (Floats{-3, 6, -3, 0, 3, -2}));
+    std::vector<double> doubles = {1, 2, 3, 0, 0, 0};
+    const std::vector<double> d = {4, 5, 6, 1, 0, 0};
+    EXPECT_EQ(tenkCrossProduct_vva_64f_3x1_S2(doubles.data(), 8, d.data(), 24, 8, doubles.data(), 24, 8, 2),
+              tenkOk);
+    EXPECT_EQ(doubles, (std::vector<double>{-3, 6, -3, 0, 3, -2}));
+}
+
+TEST(CrossProduct, SeesAGapInAnyOperand)
+{
+    for (unsigned which = 0; which < 3; ++which) {
+        const auto step = [&](unsigned operand) { return operand == which ? 4U : 3U; };
+        Floats a(7), b(7), z(7, 9), expected(7, 9);
+        for (std::size_t k = 0; k < 2; ++k) { // the first axis with the second is the third
+            a[k * step(0)] = 1, b[k * step(1) + 1] = 1;
+            expected[k * step(2)] = expected[k * step(2) + 1] = 0, expected[k * step(2) + 2] = 1;
+        }
+        EXPECT_EQ(tenkCrossProduct_vava_32f_3x1(a.data(), 4 * step(0), b.data(), 4 * step(1), z.data(),
+                                                4 * step(2), 2),
+                  tenkOk);
+        EXPECT_EQ(z, expected) << "gap in operand " << which;
+    }
+}
+
+TEST(CrossProduct, OfAnEmptyArrayReadsNothing)
+{
+    void* const unreadable = mmap(nullptr, 4096, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    ASSERT_NE(unreadable, MAP_FAILED);
+    float* const p = static_cast<float*>(unreadable);
+    EXPECT_EQ(tenkCrossProduct_vav_32f_3x1(p, 12, p, p, 12, 0), tenkOk);
+    EXPECT_EQ(tenkCrossProduct_vva_32f_3x1(p, p, 12, p, 12, 0), tenkOk);
+    munmap(unreadable, 4096);
+}
+
+// Three tables are tested index by index, src1, src2, dst: behind a null entry of one nothing is read of the
+// others.
+TEST(CrossProduct, TestsTablesIndexByIndex)
+{
+    float x[3] = {};
+    const float* broken[] = {&x[0], nullptr, &x[2]};
+    char* const memory =
+        static_cast<char*>(mmap(nullptr, 8192, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
+    ASSERT_NE(static_cast<void*>(memory), MAP_FAILED);
+    mprotect(memory + 4096, 4096, PROT_NONE);
+    float** const shorter = reinterpret_cast<float**>(memory + 4096) - 2; // two entries up to the end
+    shorter[0] = shorter[1] = x;
+    EXPECT_EQ(tenkCrossProduct_vv_32f_3x1_P(broken, 0, shorter, 0, shorter, 0), tenkNullPointerError);
+    EXPECT_EQ(tenkCrossProduct_vv_32f_3x1_P(shorter, 0, broken, 0, shorter, 0), tenkNullPointerError);
+    shorter[1] = nullptr;
+    EXPECT_EQ(tenkCrossProduct_vv_32f_3x1_P(shorter, 0, shorter, 0, shorter, 0), tenkNullPointerError);
+    munmap(memory, 8192);
+}
+
 // Objects 12 bytes apart; the result of object k goes over object k + 1 of the first source.
 TEST(CrossProduct, OfTwo32fArraysReadsFourObjectsBeforeItWrites)
 {
@@ -148,11 +212,11 @@ TEST(CrossProduct, OfTwo32fArraysReadsFourObjectsBeforeItWrites)
     const Floats b = {0, 1, 0, 0, 1, 0, 0, 1, 0, 0, 1, 0};
     EXPECT_EQ(tenkCrossProduct_vava_32f_3x1(a.data(), 12, b.data(), 12, a.data() + 3, 12, 4), tenkOk);
     EXPECT_EQ(a, (Floats{1, 0, 0, 0, 0, 1, 0, 0, 2, 0, 0, 3, 0, 0, 4}));
-    // 64f goes one by one: (1, 0, 0) x y = z, z x y = -x, -x x y = -z.
-    std::vector<double> c = {1, 0, 0, 2, 0, 0, 3, 0, 0, 9, 9, 9};
-    const std::vector<double> d = {0, 1, 0, 0, 1, 0, 0, 1, 0};
-    EXPECT_EQ(tenkCrossProduct_vava_64f_3x1(c.data(), 24, d.data(), 24, c.data() + 3, 24, 3), tenkOk);
-    EXPECT_EQ(c, (std::vector<double>{1, 0, 0, 0, 0, 1, -1, 0, 0, 0, 0, -1}));
+    // 64f goes one by one: (1, 0, 0) x y = z, z x y = -x, -x x y = -z, -z x y = x.
+    std::vector<double> c = {1, 0, 0, 2, 0, 0, 3, 0, 0, 4, 0, 0, 9, 9, 9};
+    const std::vector<double> d = {0, 1, 0, 0, 1, 0, 0, 1, 0, 0, 1, 0};
+    EXPECT_EQ(tenkCrossProduct_vava_64f_3x1(c.data(), 24, d.data(), 24, c.data() + 3, 24, 4), tenkOk);
+    EXPECT_EQ(c, (std::vector<double>{1, 0, 0, 0, 0, 1, -1, 0, 0, 0, 0, -1, 1, 0, 0}));
 }
 
 TEST(CrossProduct, TestsPointersThenTablesThenCount)

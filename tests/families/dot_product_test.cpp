@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 #include <limits>
 #include <random>
+#include <sys/mman.h>
 #include <vector>
 
 #include "support/objects.h"
@@ -262,6 +263,36 @@ TEST(DotProduct, WithASecondVectorAtAnOddAddressIsTheSumInOrder)
     EXPECT_EQ(s, big);
 }
 
+TEST(DotProduct, OfOneElementIsItsProduct)
+{
+    const float x = 3, y = -0.7F;
+    float s = 0;
+    EXPECT_EQ(tenkDotProduct_vv_32f(&x, &y, &s, 1), tenkOk);
+    EXPECT_EQ(s, 3 * -0.7F);
+}
+
+// Behind the first block there are 2^31 - 8 zeros. With blocks the sum would be that of eight elements above,
+// 2^24 + 2; the length counts as a signed number, so there is none, and in order each 1 is lost.
+TEST(DotProduct, OfTwoToTheThirtyOneElementsIsTheSumInOrder)
+{
+    if constexpr (sizeof(void*) == 8) {
+        const std::size_t length = std::size_t{1} << 31;
+        void* const memory = mmap(nullptr, length * sizeof(float), PROT_READ | PROT_WRITE,
+                                  MAP_PRIVATE | MAP_ANONYMOUS | MAP_NORESERVE, -1, 0);
+        ASSERT_NE(memory, MAP_FAILED);
+        float* const x = static_cast<float*>(memory);
+        x[0] = 4096, x[1] = 1, x[5] = 1; // with itself: 2^24, 1 and 1
+        float s = 0;
+        EXPECT_EQ(tenkDotProduct_vv_32f(x, x, &s, 8), tenkOk);
+        EXPECT_EQ(s, 16777218.0F);
+        EXPECT_EQ(tenkDotProduct_vv_32f(x, x, &s, static_cast<std::uint32_t>(length)), tenkOk);
+        EXPECT_EQ(s, 16777216.0F);
+        munmap(memory, length * sizeof(float));
+    } else {
+        GTEST_SKIP() << "more than the address space holds";
+    }
+}
+
 // ---------------------------------------------------------------------------------------------------------------
 // Tests of arguments
 // ---------------------------------------------------------------------------------------------------------------
@@ -289,13 +320,32 @@ TEST(DotProduct, TestsPointersThenSizesThenTablesThenCount)
     EXPECT_EQ(s, 9.0F);
 }
 
+TEST(DotProduct, SeesAGapInEitherOperand)
+{
+    const Floats x = {1, 2, 3, 4, 5, 6, 7, 8, 9}, ones(9, 1), y = {1, 0, 0, 0, 0, 1, 0, 0, 0};
+    Floats s(2);
+    EXPECT_EQ(tenkDotProduct_vava_32f_4x1(x.data(), 16, y.data(), 20, s.data(), 2), tenkOk);
+    EXPECT_EQ(s, (Floats{1, 5}));
+    EXPECT_EQ(tenkDotProduct_vava_32f_4x1(x.data(), 20, ones.data(), 16, s.data(), 2), tenkOk);
+    EXPECT_EQ(s, (Floats{10, 30}));
+}
+
 // Two tables are tested index by index: behind a null entry of one nothing is read of the other.
 TEST(DotProduct, TestsTablesIndexByIndex)
 {
     float x = 1, s = 9;
     const float* broken[] = {&x, nullptr};
-    const float* shorter[] = {&x};
-    EXPECT_EQ(tenkDotProduct_vav_32f_P(broken, 0, shorter, 0, &s, 2, 1), tenkNullPointerError);
+    char* const memory =
+        static_cast<char*>(mmap(nullptr, 8192, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
+    ASSERT_NE(static_cast<void*>(memory), MAP_FAILED);
+    mprotect(memory + 4096, 4096, PROT_NONE);
+    const float** const shorter =
+        reinterpret_cast<const float**>(memory + 4096) - 2; // two entries up to the end
+    shorter[0] = shorter[1] = &x;
+    EXPECT_EQ(tenkDotProduct_vav_32f_P(broken, 0, shorter, 0, &s, 3, 1), tenkNullPointerError);
+    EXPECT_EQ(tenkDotProduct_vav_32f_P(shorter, 0, broken, 0, &s, 3, 1), tenkNullPointerError);
+    EXPECT_EQ(s, 9.0F);
+    munmap(memory, 8192);
 }
 
 // Calls a list member on eight objects of ones, of which one has a null entry, and returns how many results
@@ -365,46 +415,73 @@ TEST(DotProduct, OfSomeArraysReadsAWholeStepBeforeItWrites)
     EXPECT_EQ(w, (Floats{1, 15, 33, 4, 5, 6, 7})); // 15 + 3 + 4 + 5 + 6
 }
 
-// Other arrays go object by object: the results, which lie on later objects, are those of calls with one
-// object each.
+// Other arrays go object by object: the results, which lie on later objects of one operand, are those of
+// calls with one object each.
 template <typename T>
-void checkOneByOne(const std::string& codes, unsigned size, int offset)
+void checkOneByOne(const std::string& codes, unsigned size, const std::string& layout, bool onSecond,
+                   int offset)
 {
     const std::string name =
-        "tenkDotProduct_" + codes + "_" + typeName<T>() + "_" + std::to_string(size) + "x1";
-    constexpr unsigned count = 9;
-    const std::uint32_t stride = size * sizeof(T);
-    std::vector<T> batch(128 + count * size, T(1)), y(count * size, T(0.5));
-    for (std::size_t j = 0; j < batch.size(); ++j)
-        batch[j] = T(j % 7);
-    std::vector<T> single = batch;
-    const auto run = [&](std::vector<T>& x, std::size_t k, unsigned n) {
-        T* const start = x.data() + 32;
-        Arguments second = {pointer(y.data() + (codes == "vava" ? k * size : 0))};
-        if (codes == "vava")
-            second.push_back(word(stride));
-        EXPECT_EQ(callByName(name, {{pointer(start + k * size), word(stride)},
-                                    second,
-                                    {pointer(start + offset + static_cast<std::ptrdiff_t>(k)), word(n)}}),
-                  tenkOk);
-    };
-    run(batch, 0, count);
-    for (std::size_t k = 0; k < count; ++k)
-        run(single, k, 1);
-    EXPECT_EQ(batch, single) << name << ", results at " << offset;
+        "tenkDotProduct_" + codes + "_" + typeName<T>() + "_" + std::to_string(size) + "x1" + layout;
+    for (unsigned count : {8U, 9U}) {
+        std::vector<T> batch(128 + count * size, T(1)), other(128 + count * size, T(0.5));
+        for (std::size_t j = 0; j < batch.size(); ++j)
+            batch[j] = T(j % 7);
+        std::vector<T> single = batch;
+        const auto run = [&](std::vector<T>& x, std::size_t k, unsigned n) {
+            std::vector<const T*> entries[2];
+            const auto operand = [&](unsigned which, bool array) -> Arguments {
+                const T* const start = ((which == 1) == onSecond ? x : other).data() + 32;
+                if (!array)
+                    return {pointer(start)};
+                for (std::size_t i = k; i < k + n; ++i)
+                    entries[which].push_back(start + i * size);
+                if (layout == "_L")
+                    return {pointer(entries[which].data()), word(0)};
+                return {pointer(start + k * size), word(static_cast<std::uint32_t>(size * sizeof(T)))};
+            };
+            T* const dst = x.data() + 32 + offset + static_cast<std::ptrdiff_t>(k);
+            EXPECT_EQ(
+                callByName(name, {operand(0, true), operand(1, codes == "vava"), {pointer(dst), word(n)}}),
+                tenkOk);
+        };
+        run(batch, 0, count);
+        for (std::size_t k = 0; k < count; ++k)
+            run(single, k, 1);
+        EXPECT_EQ(batch, single) << name << ", results at " << offset << " of operand " << onSecond + 1;
+    }
 }
 
 TEST(DotProduct, OfOtherArraysWritesEachResultBeforeItReadsTheNextObject)
 {
     for (int offset = -12; offset < 60; ++offset)
-        for (unsigned size : {3U, 4U, 5U, 6U}) {
-            checkOneByOne<float>("vava", size, offset);
-            checkOneByOne<double>("vava", size, offset);
-            if (size > 4)
-                checkOneByOne<float>("vav", size, offset);
-            if (size > 3)
-                checkOneByOne<double>("vav", size, offset);
-        }
+        for (unsigned size : {3U, 4U, 5U, 6U})
+            for (const char* layout : {"", "_L"}) {
+                for (bool onSecond : {false, true}) {
+                    checkOneByOne<float>("vava", size, layout, onSecond, offset);
+                    checkOneByOne<double>("vava", size, layout, onSecond, offset);
+                }
+                if (size > 4)
+                    checkOneByOne<float>("vav", size, layout, false, offset);
+                if (size > 3 || *layout)
+                    checkOneByOne<double>("vav", size, layout, false, offset);
+            }
+}
+
+// The first results fill a list entry: a null pointer by the time its object is due.
+TEST(DotProduct, OfListsWritesEachResultBeforeItReadsTheNextEntry)
+{
+    constexpr std::size_t filled = sizeof(void*) / sizeof(float);
+    for (unsigned size : {5U, 6U}) {
+        const Floats zeros(6, 0), y(6, 1);
+        std::vector<const float*> entries(4, zeros.data());
+        EXPECT_EQ(callByName("tenkDotProduct_vav_32f_" + std::to_string(size) + "x1_L",
+                             {{pointer(entries.data()), word(0), pointer(y.data()), pointer(&entries[filled]),
+                               word(4)}}),
+                  tenkNullPointerError);
+        EXPECT_EQ(entries[filled], nullptr);
+        EXPECT_EQ(entries[filled + 1], zeros.data());
+    }
 }
 
 TEST(DotProduct, PassesInfinitiesAndNaNsThrough)

@@ -240,6 +240,17 @@ TEST(FrobNorm, OfAnArrayDoesNotDependOnThePlaceOfAnObject)
         }
 }
 
+TEST(FrobNorm, TakesTheFifthOfFiveObjectsByTheSameFormula)
+{
+    Floats x;
+    for (int k = 0; k < 5; ++k)
+        x.insert(x.end(), {1, 2, 3, 4, 5, 6, 7, 8, 9});
+    Floats batch(6, 9);
+    EXPECT_EQ(tenkFrobNorm_ma_32f_3x3(x.data(), 36, 12, batch.data(), 5), tenkOk);
+    const float norm = fiveSteps(285); // 1 + 4 + 9 + ... + 81, exact in any order
+    EXPECT_EQ(batch, (Floats{norm, norm, norm, norm, norm, 9}));
+}
+
 // ---------------------------------------------------------------------------------------------------------------
 // Special values
 // ---------------------------------------------------------------------------------------------------------------
@@ -444,40 +455,86 @@ TEST(FrobNorm, OfSmallMatricesReadsAWholeStepBeforeItWrites)
 // Larger matrices go object by object: the results, which lie on later objects, are those of calls with one
 // object each.
 template <typename T>
-void checkOneByOne(unsigned size, const std::string& layout, int offset)
+void checkOneByOne(unsigned size, const std::string& layout, int rowStep, int offset)
 {
-    constexpr unsigned count = 9;
-    const std::uint32_t stride1 = size * sizeof(T), stride0 = size * stride1;
-    std::vector<T> batch(512 + count * size * size);
-    for (std::size_t j = 0; j < batch.size(); ++j)
-        batch[j] = T(j % 7 + 1);
-    std::vector<T> single = batch;
-    const auto run = [&](std::vector<T>& x, std::size_t k, unsigned n) {
-        T* const start = x.data() + 32;
-        std::vector<const T*> entries;
-        for (std::size_t i = k; i < k + n; ++i)
-            entries.push_back(start + i * size * size);
-        const Arguments src = layout.empty()
-                                  ? Arguments{pointer(start + k * size * size), word(stride0), word(stride1)}
-                                  : Arguments{pointer(entries.data()), word(0), word(stride1)};
-        EXPECT_EQ(callByName(nameOf<T>(true, size, layout),
-                             {src, {pointer(start + offset + static_cast<std::ptrdiff_t>(k)), word(n)}}),
-                  tenkOk);
-    };
-    run(batch, 0, count);
-    for (std::size_t k = 0; k < count; ++k)
-        run(single, k, 1);
-    EXPECT_EQ(batch, single) << nameOf<T>(true, size, layout) << ", results at " << offset;
+    const auto bytes = [](int elements) { return word(static_cast<std::uint32_t>(elements) * sizeof(T)); };
+    for (unsigned count : {8U, 9U}) {
+        const int step = static_cast<int>(size * size);
+        std::vector<T> batch(512 + count * size * size);
+        for (std::size_t j = 0; j < batch.size(); ++j)
+            batch[j] = T(j % 7 + 1);
+        std::vector<T> single = batch;
+        const auto run = [&](std::vector<T>& x, int k, int n) {
+            T* const start = x.data() + 64;
+            std::vector<const T*> entries;
+            for (int i = k; i < k + n; ++i)
+                entries.push_back(start + i * step);
+            const Arguments src = layout.empty()
+                                      ? Arguments{pointer(start + k * step), bytes(step), bytes(rowStep)}
+                                      : Arguments{pointer(entries.data()), word(0), bytes(rowStep)};
+            EXPECT_EQ(callByName(nameOf<T>(true, size, layout),
+                                 {src, {pointer(start + offset + k), word(static_cast<std::uint32_t>(n))}}),
+                      tenkOk);
+        };
+        run(batch, 0, static_cast<int>(count));
+        for (int k = 0; k < static_cast<int>(count); ++k)
+            run(single, k, 1);
+        EXPECT_EQ(batch, single) << nameOf<T>(true, size, layout) << ", results at " << offset;
+    }
 }
 
 TEST(FrobNorm, OfLargerMatricesWritesEachResultBeforeItReadsTheNextObject)
 {
-    for (unsigned size : {5U, 6U})
+    for (int size : {5, 6})
         for (const char* layout : {"", "_L"})
-            for (int offset = -12; offset < 330; ++offset) {
-                checkOneByOne<float>(size, layout, offset);
-                checkOneByOne<double>(size, layout, offset);
-            }
+            for (int offset = -32; offset < 330; ++offset)
+                for (int rowStep :
+                     {size, size + 2, -1}) { // without and with gaps, and backwards through each other
+                    checkOneByOne<float>(static_cast<unsigned>(size), layout, rowStep, offset);
+                    checkOneByOne<double>(static_cast<unsigned>(size), layout, rowStep, offset);
+                }
+}
+
+// The first two results are the list entries of the others: null pointers by then.
+TEST(FrobNorm, OfLargerMatricesWritesEachResultBeforeItReadsTheNextEntry)
+{
+    std::vector<double> zeros(36, 0);
+    for (unsigned size : {5U, 6U}) {
+        std::vector<const double*> entries(4, zeros.data());
+        double* const dst = reinterpret_cast<double*>(&entries[1]);
+        EXPECT_EQ(callByName(nameOf<double>(true, size, "_L"),
+                             {{pointer(entries.data()), word(0), word(8 * size), pointer(dst), word(4)}}),
+                  tenkNullPointerError);
+        EXPECT_EQ(entries[0], zeros.data());
+        EXPECT_EQ(entries[1], nullptr);
+    }
+}
+
+TEST(FrobNorm, AddsTheShiftToAListOfMatricesWithoutGaps)
+{
+    std::vector<double> x(10, 2);
+    x[0] = 9;
+    const double* const list[] = {x.data(), x.data()};
+    double d[2] = {};
+    EXPECT_EQ(tenkFrobNorm_ma_64f_3x3_L(list, 8, 24, d, 2), tenkOk);
+    EXPECT_EQ(d[0], 6.0); // nine squares of 2
+    EXPECT_EQ(d[1], 6.0);
+}
+
+// Objects as far apart as without gaps, but rows that are not: 36 and 8 bytes.
+TEST(FrobNorm, SeesRowsThatOverlap)
+{
+    const std::vector<double> x = {1, 1, 1, 0, 1, 0, 0, 0, 0,
+                                   1, 1, 1, 0, 1, 0, 0, 0, 0}; // rows 111 110 101, both times
+    const Floats y(x.begin(), x.end());
+    double d[2] = {};
+    EXPECT_EQ(tenkFrobNorm_ma_64f_3x3(x.data(), 72, 8, d, 2), tenkOk);
+    EXPECT_EQ(d[0], std::sqrt(7.0));
+    EXPECT_EQ(d[1], std::sqrt(7.0));
+    float s[2] = {};
+    EXPECT_EQ(tenkFrobNorm_ma_32f_3x3(y.data(), 36, 4, s, 2), tenkOk);
+    EXPECT_EQ(s[0], fiveSteps(7));
+    EXPECT_EQ(s[1], fiveSteps(7));
 }
 
 } // namespace

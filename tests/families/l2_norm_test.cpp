@@ -327,6 +327,26 @@ TEST(L2Norm, OfAListOf32fOfFixedSizeTestsFourEntriesAtATime)
     EXPECT_EQ(resultsBeforeNull<float>(0, "_L", 6, 8), 6U);
 }
 
+// The results of a step lie on objects of the same step, which have been read by then.
+TEST(L2Norm, OfA32fArrayOfFixedSizeReadsAWholeStepBeforeItWrites)
+{
+    for (unsigned size : {3U, 4U, 5U, 6U}) {
+        Floats x(12, 1), expected(12, 1);
+        for (std::size_t k = 1; k <= 4; ++k)
+            expected[k] = fiveSteps(static_cast<float>(size)); // as many ones
+        EXPECT_EQ(callByName(nameOf<float>(true, size, ""),
+                             {{pointer(x.data()), word(4), pointer(&x[1]), word(4)}}),
+                  tenkOk);
+        EXPECT_EQ(x, expected) << size;
+        Floats y(12, 1);
+        const float* const list[] = {&y[0], &y[1], &y[2], &y[3]};
+        EXPECT_EQ(
+            callByName(nameOf<float>(true, size, "_L"), {{pointer(list), word(0), pointer(&y[1]), word(4)}}),
+            tenkOk);
+        EXPECT_EQ(y, expected) << size;
+    }
+}
+
 // Arrays of 64f go object by object: the results, which lie on later objects, are those of calls with one
 // object each.
 TEST(L2Norm, Of64fArraysWritesEachResultBeforeItReadsTheNextObject)

@@ -8,6 +8,7 @@
 #include <limits>
 #include <numeric>
 #include <random>
+#include <sys/mman.h>
 #include <vector>
 
 #include "support/objects.h"
@@ -134,6 +135,39 @@ TEST(LComb, OfSomeArraysReadsTheSecondVectorOnce)
     float* to[] = {memory.data(), memory.data() + 4};
     EXPECT_EQ(tenkLComb_vav_32f_4x1_L(from, 0, 1, memory.data(), 2, to, 0, 2), tenkOk);
     EXPECT_EQ(memory, Floats(8, 11));
+    std::vector<double> dx(4, 1), doubles(8, 5);
+    const double* doublesFrom[] = {dx.data(), dx.data()};
+    double* doublesTo[] = {doubles.data(), doubles.data() + 4};
+    EXPECT_EQ(tenkLComb_vav_64f_4x1_L(doublesFrom, 0, 1, doubles.data(), 2, doublesTo, 0, 2), tenkOk);
+    EXPECT_EQ(doubles, std::vector<double>(8, 11));
+}
+
+// 1 + 2 x 5 over the second vector first, then 1 + 2 x 11.
+template <typename T>
+void checkReadsTheSecondVectorForEachObject(unsigned size, const std::string& layout)
+{
+    std::vector<T> x(size, 1), memory(2 * size, 5), expected(size, 11);
+    expected.resize(2 * size, 23);
+    std::vector<const T*> from(2, x.data());
+    std::vector<T*> to = {memory.data(), memory.data() + size};
+    const bool list = layout == "_L";
+    const std::uint32_t stride = list ? 0 : static_cast<std::uint32_t>(size * sizeof(T)); // or the shift
+    EXPECT_EQ(callByName(nameOf<T>("vav", size, layout),
+                         {{list ? pointer(from.data()) : pointer(x.data()), word(0), value(T(1)),
+                           pointer(memory.data()), value(T(2)),
+                           list ? pointer(to.data()) : pointer(memory.data()), word(stride), word(2)}}),
+              tenkOk);
+    EXPECT_EQ(memory, expected) << nameOf<T>("vav", size, layout);
+}
+
+TEST(LComb, OfOtherArraysReadsTheSecondVectorForEachObject)
+{
+    checkReadsTheSecondVectorForEachObject<float>(3, "");
+    checkReadsTheSecondVectorForEachObject<double>(3, "");
+    for (unsigned size : {3U, 5U, 6U}) {
+        checkReadsTheSecondVectorForEachObject<float>(size, "_L");
+        checkReadsTheSecondVectorForEachObject<double>(size, "_L");
+    }
 }
 
 TEST(LComb, OfAnEmptyArrayIsFine)
@@ -142,6 +176,18 @@ TEST(LComb, OfAnEmptyArrayIsFine)
     float x = 0, z = 9;
     EXPECT_EQ(tenkLComb_vav_32f_4x1(&x, 0, 1, y, 1, &z, 0, 0), tenkOk);
     EXPECT_EQ(z, 9.0F);
+}
+
+// Where it is read once, the second vector is read even if there is no object.
+TEST(LComb, OfAnEmptyArrayReadsTheSecondVectorAllTheSame)
+{
+    void* const unreadable = mmap(nullptr, 4096, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    ASSERT_NE(unreadable, MAP_FAILED);
+    const auto* const y = static_cast<const float*>(unreadable);
+    float x = 0, z = 0;
+    EXPECT_DEATH(tenkLComb_vav_32f_4x1(&x, 0, 1, y, 1, &z, 0, 0), "");
+    EXPECT_EQ(tenkLComb_vav_32f_3x1(&x, 0, 1, y, 1, &z, 0, 0), tenkOk);
+    munmap(unreadable, 4096);
 }
 
 // All lengths up to 40 and two long ones at all alignments of the destination, odd ones among them.
@@ -235,37 +281,44 @@ TEST(LComb, OneElementAboveItsSourceRunsThrough)
         EXPECT_EQ(x[j], std::ldexp(1.0F, static_cast<int>(j)));
 }
 
+// Over a source that is an array or the only object of its kind.
 template <typename T>
-void checkInPlace(unsigned size, const std::string& layout)
+void checkInPlace(const std::string& codes, unsigned size, const std::string& layout)
 {
-    const unsigned count = 5, length = size == 0 ? 9 : size;
+    const bool array1 = codes != "vv", array2 = codes == "vava";
+    const bool array = array1 || array2;
+    const unsigned count = array ? 5 : 1, length = size == 0 ? 19 : size;
     for (bool second : {false, true}) {
-        auto a = vectors<T>(layout, true, count, length), b = vectors<T>(layout, true, count, length);
-        auto expected = vectors<T>(layout, true, count, length);
+        if ((second ? array2 : array1) != array)
+            continue;
+        auto a = vectors<T>(layout, array1, count, length), b = vectors<T>(layout, array2, count, length);
+        auto expected = vectors<T>(layout, array, count, length);
         T n = 1;
         a.fill([&] { return n = n + 1; }), b.fill([&] { return n = n + 3; });
         for (unsigned k = 0; k < count; ++k)
             for (unsigned j = 0; j < length; ++j)
                 expected.at(k, j) = a.at(k, j) * T(3) + b.at(k, j) * T(2);
         auto& dst = second ? b : a;
-        ASSERT_EQ(callByName(nameOf<T>("vava", size, layout), {a.arguments(),
-                                                               {value(T(3))},
-                                                               b.arguments(),
-                                                               {value(T(2))},
-                                                               dst.arguments(),
-                                                               sizes(size, length, count)}),
+        const std::string name = nameOf<T>(codes, size, layout);
+        ASSERT_EQ(callByName(name, {a.arguments(),
+                                    {value(T(3))},
+                                    b.arguments(),
+                                    {value(T(2))},
+                                    dst.arguments(),
+                                    sizes(size, length, array ? count : 0)}),
                   tenkOk);
-        EXPECT_EQ(dst.memory(), expected.memory()) << nameOf<T>("vava", size, layout);
+        EXPECT_EQ(dst.memory(), expected.memory()) << name;
     }
 }
 
 TEST(LComb, InPlaceIsExact)
 {
-    for (unsigned size : {0U, 3U, 4U, 5U, 6U})
-        for (const std::string& layout : arrayLayouts) {
-            checkInPlace<float>(size, layout);
-            checkInPlace<double>(size, layout);
-        }
+    for (const char* codes : {"vv", "vav", "vava"})
+        for (unsigned size : {0U, 3U, 4U, 5U, 6U})
+            for (const std::string& layout : codes == std::string("vv") ? singleLayouts : arrayLayouts) {
+                checkInPlace<float>(codes, size, layout);
+                checkInPlace<double>(codes, size, layout);
+            }
 }
 
 // Fixed sizes, too, go element by element: 2 x 1 lands on the element that is read next.
@@ -287,6 +340,96 @@ TEST(LComb, OfFixedSizeOneElementAboveItsSourceRunsThrough)
     EXPECT_EQ(tenkLComb_vava_32f_4x1(z.data(), 16, 2, more.data(), 16, 1, z.data() + 1, 16, 3), tenkOk);
     for (std::size_t j = 0; j < 13; ++j)
         EXPECT_EQ(z[j], std::ldexp(1.0F, static_cast<int>(j)));
+}
+
+// Two objects of a fixed size, at all distances in bytes of the destination from a source, which may be a
+// single one, and with the destinations as far apart as the sources or farther: the plain loop on a copy of
+// the memory.
+template <typename T>
+void checkOverlapOfFixedSize(const std::string& codes, unsigned size, bool list, unsigned farther)
+{
+    constexpr unsigned count = 2;
+    const bool array[] = {codes != "vva", codes != "vav", true};
+    const unsigned gap[] = {size + 1, size + 1, size + 1 + farther};
+    for (int bytes = -56; bytes <= 56; ++bytes)
+        for (bool second : {false, true}) {
+            if (second && codes == "vav" && (list ? size == 4 : size > 3))
+                continue; // the single vector is read once
+            std::vector<T> memory(64), other(64);
+            std::iota(memory.begin(), memory.end(), T(1));
+            std::iota(other.begin(), other.end(), T(-50));
+            std::vector<T> expected = memory;
+            const auto address = [&](unsigned which, std::vector<T>& v, unsigned k, unsigned j) {
+                const auto start =
+                    reinterpret_cast<char*>(v.data() + 16 + (array[which] ? k * gap[which] : 0) + j);
+                return which == 2 ? start + bytes : start;
+            };
+            for (unsigned k = 0; k < count; ++k)
+                for (unsigned j = 0; j < size; ++j) {
+                    T x, y;
+                    std::memcpy(&x, address(0, second ? other : expected, k, j), sizeof x);
+                    std::memcpy(&y, address(1, second ? expected : other, k, j), sizeof y);
+                    const T product = x * T(0.5), sum = product + y * T(0.25);
+                    std::memcpy(address(2, expected, k, j), &sum, sizeof sum);
+                }
+            std::vector<char*> entries[3];
+            const auto operand = [&](unsigned which, std::vector<T>& v) -> Arguments {
+                for (unsigned k = 0; k < count; ++k)
+                    entries[which].push_back(address(which, v, k, 0));
+                if (!array[which])
+                    return {pointer(entries[which][0])};
+                if (list)
+                    return {pointer(entries[which].data()), word(0)};
+                return {pointer(entries[which][0]), word(static_cast<std::uint32_t>(gap[which] * sizeof(T)))};
+            };
+            const std::string name = nameOf<T>(codes, size, list ? "_L" : "");
+            ASSERT_EQ(callByName(name, {operand(0, second ? other : memory),
+                                        {value(T(0.5))},
+                                        operand(1, second ? memory : other),
+                                        {value(T(0.25))},
+                                        operand(2, memory),
+                                        {word(count)}}),
+                      tenkOk);
+            ASSERT_EQ(std::memcmp(memory.data(), expected.data(), memory.size() * sizeof(T)), 0)
+                << name << ", " << bytes << " bytes apart";
+        }
+}
+
+TEST(LComb, OfFixedSizeOverlappingGivesTheResultOfTheAscendingLoop)
+{
+    for (const char* codes : {"vav", "vava"})
+        for (unsigned size : {3U, 4U, 5U, 6U})
+            for (bool list : {false, true})
+                for (unsigned farther : {0U, 1U}) {
+                    checkOverlapOfFixedSize<float>(codes, size, list, farther);
+                    checkOverlapOfFixedSize<double>(codes, size, list, farther);
+                }
+}
+
+// Arrays without gaps but for one element between the objects of one operand, and lists of which one has a
+// shift.
+TEST(LComb, SeesAGapOrAShiftOfAnyOperand)
+{
+    const Floats x = {1, 2, 3, 4, 5, 6, 7, 8, 9}, y = {10, 20, 30, 40, 50, 60, 70, 80, 90};
+    for (unsigned which : {0U, 2U}) {
+        Floats z(9, 0), expected(9, 0);
+        const auto step = [&](unsigned operand) { return operand == which ? 5U : 4U; };
+        for (std::size_t k = 0; k < 2; ++k)
+            for (std::size_t j = 0; j < 4; ++j)
+                expected[k * step(2) + j] = 2 * x[k * step(0) + j] + 3 * y[j];
+        EXPECT_EQ(tenkLComb_vav_32f_4x1(x.data(), 4 * step(0), 2, y.data(), 3, z.data(), 4 * step(2), 2),
+                  tenkOk);
+        EXPECT_EQ(z, expected) << "gap in operand " << which;
+
+        const float* const from[] = {x.data(), x.data() + 4};
+        float* const to[] = {z.data(), z.data() + 4};
+        const auto shift = [&](unsigned operand) { return operand == which ? 1U : 0U; };
+        z.assign(9, 0), expected.assign(9, 0);
+        for (std::size_t j = 0; j < 8; ++j)
+            expected[j + shift(2)] = 2 * x[j + shift(0)] + 3 * y[j % 4];
+        EXPECT_EQ(tenkLComb_vav_32f_4x1_L(from, 4 * shift(0), 2, y.data(), 3, to, 4 * shift(2), 2), tenkOk);
+        EXPECT_EQ(z, expected) << "shift of operand " << which;
+    }
 }
 
 TEST(LComb, TestsPointersThenLengthThenTablesThenCount)

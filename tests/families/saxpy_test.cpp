@@ -141,6 +141,29 @@ TEST(Saxpy, IsTheSameAtAllLengthsAndAlignments)
     checkAlignments<double>(tenkSaxpy_vv_64f);
 }
 
+// Three elements are left behind a block of eight; in front of a boundary stand three, which leaves no block;
+// and an element at an odd address never stands on a boundary.
+TEST(Saxpy, BesideABlockAndWithoutOneIsTheSame)
+{
+    const Floats x = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11}, y = {11, 10, 9, 8, 7, 6, 5, 4, 3, 2, 1};
+    const Floats expected = {13, 14, 15, 16, 17, 18, 19, 20, 21, 22, 23}; // 2 x + y
+    alignas(16) char z[64];
+    const auto check = [&](unsigned at, unsigned length) {
+        std::memset(z, 0, sizeof z);
+        EXPECT_EQ(tenkSaxpy_vv_32f(x.data(), 2, y.data(),
+                                   reinterpret_cast<float*>(reinterpret_cast<std::uintptr_t>(z) + at),
+                                   length),
+                  tenkOk);
+        EXPECT_EQ(std::memcmp(z + at, expected.data(), length * sizeof(float)), 0)
+            << length << " elements at " << at;
+        for (std::size_t b = at + length * sizeof(float); b < sizeof z; ++b)
+            EXPECT_EQ(z[b], 0) << "behind " << length << " elements at " << at;
+    };
+    check(0, 11);
+    check(4, 9);
+    check(3, 11);
+}
+
 // The plain loop in ascending order, on a copy of the memory, at all distances of the destination from a
 // source.
 template <typename T>
@@ -188,35 +211,43 @@ TEST(Saxpy, OneElementAboveItsSourceRunsThrough)
         EXPECT_EQ(x[j], std::ldexp(1.0F, static_cast<int>(j)));
 }
 
+// Over a source that is an array or the only object of its kind.
 template <typename T>
-void checkInPlace(unsigned size, const std::string& layout)
+void checkInPlace(const std::string& codes, unsigned size, const std::string& layout)
 {
-    const unsigned count = 5, length = size == 0 ? 9 : size;
+    const bool array1 = codes == "vav" || codes == "vava", array2 = codes == "vva" || codes == "vava";
+    const bool array = array1 || array2;
+    const unsigned count = array ? 5 : 1, length = size == 0 ? 19 : size;
     for (bool second : {false, true}) {
-        auto a = vectors<T>(layout, true, count, length), b = vectors<T>(layout, true, count, length);
-        auto expected = vectors<T>(layout, true, count, length);
+        if ((second ? array2 : array1) != array)
+            continue;
+        auto a = vectors<T>(layout, array1, count, length), b = vectors<T>(layout, array2, count, length);
+        auto expected = vectors<T>(layout, array, count, length);
         T n = 1;
         a.fill([&] { return n = n + 1; }), b.fill([&] { return n = n + 3; });
         for (unsigned k = 0; k < count; ++k)
             for (unsigned j = 0; j < length; ++j)
                 expected.at(k, j) = a.at(k, j) * T(3) + b.at(k, j);
         auto& dst = second ? b : a;
-        ASSERT_EQ(
-            callByName(
-                nameOf<T>("vava", size, layout),
-                {a.arguments(), {value(T(3))}, b.arguments(), dst.arguments(), sizes(size, length, count)}),
-            tenkOk);
-        EXPECT_EQ(dst.memory(), expected.memory()) << nameOf<T>("vava", size, layout);
+        const std::string name = nameOf<T>(codes, size, layout);
+        ASSERT_EQ(callByName(name, {a.arguments(),
+                                    {value(T(3))},
+                                    b.arguments(),
+                                    dst.arguments(),
+                                    sizes(size, length, array ? count : 0)}),
+                  tenkOk);
+        EXPECT_EQ(dst.memory(), expected.memory()) << name;
     }
 }
 
 TEST(Saxpy, InPlaceIsExact)
 {
-    for (unsigned size : {0U, 3U, 4U, 5U, 6U})
-        for (const std::string& layout : arrayLayouts) {
-            checkInPlace<float>(size, layout);
-            checkInPlace<double>(size, layout);
-        }
+    for (const char* codes : {"vv", "vav", "vva", "vava"})
+        for (unsigned size : {0U, 3U, 4U, 5U, 6U})
+            for (const std::string& layout : codes == std::string("vv") ? singleLayouts : arrayLayouts) {
+                checkInPlace<float>(codes, size, layout);
+                checkInPlace<double>(codes, size, layout);
+            }
 }
 
 // Fixed sizes, too, go element by element: 2 x 1 lands on the element that is read next.
@@ -238,6 +269,90 @@ TEST(Saxpy, OfFixedSizeOneElementAboveItsSourceRunsThrough)
     EXPECT_EQ(tenkSaxpy_vava_32f_4x1(z.data(), 16, 2, more.data(), 16, z.data() + 1, 16, 3), tenkOk);
     for (std::size_t j = 0; j < 13; ++j)
         EXPECT_EQ(z[j], std::ldexp(1.0F, static_cast<int>(j)));
+}
+
+// Two objects of a fixed size, at all distances in bytes of the destination from a source, which may be a
+// single one, and with the destinations as far apart as the sources or farther: the plain loop on a copy of
+// the memory.
+template <typename T>
+void checkOverlapOfFixedSize(const std::string& codes, unsigned size, bool list, unsigned farther)
+{
+    constexpr unsigned count = 2;
+    const bool array[] = {codes != "vva", codes != "vav", true};
+    const unsigned gap[] = {size + 1, size + 1, size + 1 + farther};
+    for (int bytes = -56; bytes <= 56; ++bytes)
+        for (bool second : {false, true}) {
+            std::vector<T> memory(64), other(64);
+            std::iota(memory.begin(), memory.end(), T(1));
+            std::iota(other.begin(), other.end(), T(-50));
+            std::vector<T> expected = memory;
+            const auto address = [&](unsigned which, std::vector<T>& v, unsigned k, unsigned j) {
+                const auto start =
+                    reinterpret_cast<char*>(v.data() + 16 + (array[which] ? k * gap[which] : 0) + j);
+                return which == 2 ? start + bytes : start;
+            };
+            for (unsigned k = 0; k < count; ++k)
+                for (unsigned j = 0; j < size; ++j) {
+                    T x, y;
+                    std::memcpy(&x, address(0, second ? other : expected, k, j), sizeof x);
+                    std::memcpy(&y, address(1, second ? expected : other, k, j), sizeof y);
+                    const T product = x * T(0.5), sum = product + y;
+                    std::memcpy(address(2, expected, k, j), &sum, sizeof sum);
+                }
+            std::vector<char*> entries[3];
+            const auto operand = [&](unsigned which, std::vector<T>& v) -> Arguments {
+                for (unsigned k = 0; k < count; ++k)
+                    entries[which].push_back(address(which, v, k, 0));
+                if (!array[which])
+                    return {pointer(entries[which][0])};
+                if (list)
+                    return {pointer(entries[which].data()), word(0)};
+                return {pointer(entries[which][0]), word(static_cast<std::uint32_t>(gap[which] * sizeof(T)))};
+            };
+            const std::string name = nameOf<T>(codes, size, list ? "_L" : "");
+            ASSERT_EQ(callByName(name, {operand(0, second ? other : memory),
+                                        {value(T(0.5))},
+                                        operand(1, second ? memory : other),
+                                        operand(2, memory),
+                                        {word(count)}}),
+                      tenkOk);
+            ASSERT_EQ(std::memcmp(memory.data(), expected.data(), memory.size() * sizeof(T)), 0)
+                << name << ", " << bytes << " bytes apart";
+        }
+}
+
+TEST(Saxpy, OfFixedSizeOverlappingGivesTheResultOfTheAscendingLoop)
+{
+    for (const char* codes : {"vav", "vva", "vava"})
+        for (unsigned size : {3U, 4U, 5U, 6U})
+            for (bool list : {false, true})
+                for (unsigned farther : {0U, 1U}) {
+                    checkOverlapOfFixedSize<float>(codes, size, list, farther);
+                    checkOverlapOfFixedSize<double>(codes, size, list, farther);
+                }
+}
+
+// Arrays without gaps but for one element between the objects of one operand.
+TEST(Saxpy, SeesAGapInAnyOperand)
+{
+    for (unsigned gap = 0; gap < 3; ++gap)
+        for (unsigned size : {0U, 4U}) {
+            const Floats x = {1, 2, 3, 4, 5, 6, 7, 8, 9}, y = {10, 20, 30, 40, 50, 60, 70, 80, 90};
+            Floats z(9, 0), expected(9, 0);
+            const auto at = [&](unsigned which, std::size_t k, std::size_t j) {
+                return k * (which == gap ? 5 : 4) + j;
+            };
+            for (std::size_t k = 0; k < 2; ++k)
+                for (std::size_t j = 0; j < 4; ++j)
+                    expected[at(2, k, j)] = 2 * x[at(0, k, j)] + y[at(1, k, j)];
+            const auto stride = [&](unsigned which) { return word(which == gap ? 20 : 16); };
+            EXPECT_EQ(callByName(nameOf<float>("vava", size, ""),
+                                 {{pointer(x.data()), stride(0), value(2.0F), pointer(y.data()), stride(1),
+                                   pointer(z.data()), stride(2)},
+                                  sizes(size, 4, 2)}),
+                      tenkOk);
+            EXPECT_EQ(z, expected) << "gap in operand " << gap;
+        }
 }
 
 TEST(Saxpy, TestsPointersThenLengthThenTablesThenCount)

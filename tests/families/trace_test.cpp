@@ -88,7 +88,7 @@ TEST(Trace, OfOrderOneIsTheElementAndMinusZeroBecomesPlusZero)
     EXPECT_EQ(bits(t), 0U);
 }
 
-TEST(Trace, PassesNaNsThroughAndReadsNothingBesideTheDiagonal)
+TEST(Trace, PassesNaNsAndInfinitiesThroughAndReadsNothingBesideTheDiagonal)
 {
     const float nan = std::numeric_limits<float>::quiet_NaN();
     const float x[] = {1, nan, nan, nan, 2, nan, nan, nan, 3}, y[] = {1, 0, 0, 0, nan, 0, 0, 0, 3};
@@ -98,6 +98,12 @@ TEST(Trace, PassesNaNsThroughAndReadsNothingBesideTheDiagonal)
     EXPECT_EQ(tenkTrace_m_32f(x, 12, 3, &t), tenkOk);
     EXPECT_EQ(t, 6.0F);
     EXPECT_EQ(tenkTrace_m_32f_3x3(y, 12, &t), tenkOk);
+    EXPECT_TRUE(std::isnan(t));
+    const float infinity = std::numeric_limits<float>::infinity();
+    const float z[] = {1, 0, 0, 0, infinity, 0, 0, 0, -3}, w[] = {infinity, 0, 0, -infinity};
+    EXPECT_EQ(tenkTrace_m_32f_3x3(z, 12, &t), tenkOk);
+    EXPECT_EQ(t, infinity);
+    EXPECT_EQ(tenkTrace_m_32f(w, 8, 2, &t), tenkOk);
     EXPECT_TRUE(std::isnan(t));
 }
 
@@ -168,6 +174,24 @@ TEST(Trace, OfAnArrayBehindTablesTestsTheFirstRowAndNotTheDiagonal)
     EXPECT_EQ(tenkTrace_ma_32f_P(table, 0, 3, &t, 0), tenkOk);
     EXPECT_EQ(tenkTrace_ma_64f_3x3_PS2(reinterpret_cast<const double**>(table), 0, 8, nullptr, 0),
               tenkNullPointerError);
+}
+
+// Objects or rows as far apart as without gaps, but not both.
+TEST(Trace, SeesAGapBetweenRowsOrObjects)
+{
+    Floats x(40);
+    for (std::size_t j = 0; j < x.size(); ++j)
+        x[j] = static_cast<float>(j);
+    Floats t(2);
+    EXPECT_EQ(tenkTrace_ma_32f_3x3(x.data(), 36, 16, t.data(), 2), tenkOk);
+    EXPECT_EQ(t, (Floats{15, 42})); // 0 + 5 + 10, 9 + 14 + 19
+    EXPECT_EQ(tenkTrace_ma_32f_3x3(x.data(), 40, 12, t.data(), 2), tenkOk);
+    EXPECT_EQ(t, (Floats{12, 42})); // 0 + 4 + 8, 10 + 14 + 18
+    const float* const list[] = {&x[0], &x[9]};
+    EXPECT_EQ(tenkTrace_ma_32f_3x3_L(list, 0, 16, t.data(), 2), tenkOk);
+    EXPECT_EQ(t, (Floats{15, 42}));
+    EXPECT_EQ(tenkTrace_ma_32f_3x3_L(list, 4, 12, t.data(), 2), tenkOk);
+    EXPECT_EQ(t, (Floats{15, 42})); // 1 + 5 + 9, 10 + 14 + 18
 }
 
 TEST(Trace, OfAListTestsEntriesObjectByObject)
