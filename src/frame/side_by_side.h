@@ -65,6 +65,30 @@ TENK_INLINE bool any(Mask<double> v)
     return _mm_movemask_pd(reinterpret_cast<__m128d>(v)) != 0;
 }
 
+TENK_INLINE bool all(Mask<float> v)
+{
+    return _mm_movemask_ps(reinterpret_cast<__m128>(v)) == 0xF;
+}
+TENK_INLINE bool all(Mask<double> v)
+{
+    return _mm_movemask_pd(reinterpret_cast<__m128d>(v)) == 0x3;
+}
+
+// Exchanges the lanes of two vectors where the mask is set. In intrinsics: the compiler takes the same in
+// operators for a choice, for which SSE2 has no instruction, and makes it lane by lane.
+TENK_INLINE void exchangeWhere(Mask<float> mask, Vector<float>& a, Vector<float>& b)
+{
+    const __m128 change = _mm_and_ps(_mm_xor_ps(a, b), reinterpret_cast<__m128>(mask));
+    a = _mm_xor_ps(a, change);
+    b = _mm_xor_ps(b, change);
+}
+TENK_INLINE void exchangeWhere(Mask<double> mask, Vector<double>& a, Vector<double>& b)
+{
+    const __m128d change = _mm_and_pd(_mm_xor_pd(a, b), reinterpret_cast<__m128d>(mask));
+    a = _mm_xor_pd(a, change);
+    b = _mm_xor_pd(b, change);
+}
+
 // The larger one, and b if one of them is a NaN: a > b ? a : b.
 TENK_INLINE Vector<float> larger(Vector<float> a, Vector<float> b)
 {
@@ -144,7 +168,8 @@ template <unsigned n>
 TENK_INLINE void loadSideBySide(const Addresses<double>& from, Vector<double>* to)
 {
     if constexpr (n >= 2) {
-        const auto first = loadVector<double>(from.of[0]), second = loadVector<double>(from.of[1]);
+        const auto first = inRegister(loadVector<double>(from.of[0]));
+        const auto second = inRegister(loadVector<double>(from.of[1]));
         to[0] = shuffle<0, 2>(first, second);
         to[1] = shuffle<1, 3>(first, second);
         loadSideBySide<n - 2>(behind<double>(from, 16), to + 2);
@@ -184,27 +209,83 @@ TENK_INLINE void storeSideBySide(const Addresses<double>& to, const Vector<doubl
     }
 }
 
+// Rows of n elements that are worked on side by side, to be stored one object after the other. `from` holds
+// an element of each object, row after row.
+template <typename T, unsigned rows, unsigned n>
+struct RowsOfObjects;
+
+template <unsigned rows, unsigned n>
+struct RowsOfObjects<float, rows, n>
+{
+    Row<float, n> row[rows][4];
+
+    TENK_INLINE explicit RowsOfObjects(const Vector<float>* from)
+    {
+        constexpr unsigned full = n / 4;
+        each<rows>([&](auto p) TENK_LAMBDA {
+            each<full>([&](auto v) TENK_LAMBDA {
+                const Vector<float>* const column = from + p * n + v * 4;
+                Vector<float> object[4] = {column[0], column[1], column[2], column[3]};
+                turn(object[0], object[1], object[2], object[3]);
+                each<4>([&](auto g) TENK_LAMBDA { row[p][g].vector[v] = object[g]; });
+            });
+            const Vector<float>* const left = from + p * n + full * 4;
+            if constexpr (n % 4 == 1) {
+                each<4>([&](auto g) TENK_LAMBDA { row[p][g].rest = left[0][std::size_t{g}]; });
+            } else if constexpr (n % 4 == 2) {
+                const auto low = shuffle<0, 4, 1, 5>(left[0], left[1]);
+                const auto high = shuffle<2, 6, 3, 7>(left[0], left[1]);
+                row[p][0].rest = low;
+                row[p][1].rest = shuffle<2, 3, 6, 7>(low, low);
+                row[p][2].rest = high;
+                row[p][3].rest = shuffle<2, 3, 6, 7>(high, high);
+            } else if constexpr (n % 4 == 3) {
+                Vector<float> object[4] = {left[0], left[1], left[1], left[2]};
+                turn(object[0], object[1], object[2], object[3]);
+                each<4>([&](auto g) TENK_LAMBDA { row[p][g].rest = object[g]; });
+            }
+        });
+    }
+    template <std::size_t p, std::size_t g>
+    TENK_INLINE const Row<float, n>& get(Index<p>, Index<g>) const
+    {
+        return row[p][g];
+    }
+};
+
+template <unsigned rows, unsigned n>
+struct RowsOfObjects<double, rows, n>
+{
+    const Vector<double>* from;
+
+    TENK_INLINE explicit RowsOfObjects(const Vector<double>* from) : from(from) {}
+    template <std::size_t p, std::size_t g>
+    TENK_INLINE Row<double, n> get(Index<p>, Index<g>) const
+    {
+        const Vector<double>* const column = from + p * n;
+        Row<double, n> row;
+        each<n / 2>([&](auto v)
+                        TENK_LAMBDA { row.vector[v] = shuffle<g, 2 + g>(column[2 * v], column[2 * v + 1]); });
+        if constexpr (n % 2 == 1)
+            row.rest = column[n - 1][g];
+        return row;
+    }
+};
+
 // ---------------------------------------------------------------------------------------------------------------
 // Which objects may stand side by side
 // ---------------------------------------------------------------------------------------------------------------
 
-// The bytes of an object of n adjacent elements in each of some rows.
 struct Bytes
 {
     Address first, length;
+
+    TENK_INLINE Address last() const { return first + length - 1; }
 };
-template <typename T>
-TENK_INLINE Bytes bytesOf(const DenseView<T>& view, std::size_t rows, std::size_t n)
-{
-    const Address rest = times(rows - 1, view.rowStep), row = n * sizeof(T);
-    if (view.rowStep < 0)
-        return {view.start + rest, row - rest};
-    return {view.start, row + rest};
-}
 
 TENK_INLINE bool apart(const Bytes& a, const Bytes& b)
 {
-    return b.first - a.first >= a.length && a.first - b.first >= b.length;
+    return b.first - a.first - a.length <= 0 - a.length - b.length;
 }
 
 // No row of an object lies in another one.
@@ -215,93 +296,177 @@ TENK_INLINE bool rowsApart(Displacement rowStep, std::size_t n)
     return rowStep >= row || rowStep <= -row;
 }
 
-// Whether an object may be read although the call could end before it comes to that object: memory is
-// readable by whole pages, and this one's are pages of an object that is read in any case.
+// Memory is readable by whole pages.
 inline constexpr Address page = 4096;
 
-TENK_INLINE bool onPagesOf(const Bytes& sure, const Bytes& other)
+TENK_INLINE bool onOnePage(Address a, Address b)
 {
-    const Address firstPage = sure.first / page, lastPage = (sure.first + sure.length - 1) / page;
-    const auto covered = [&](Address byte)
-                             TENK_LAMBDA { return byte / page == firstPage || byte / page == lastPage; };
-    return covered(other.first) && covered(other.first + other.length - 1) && sure.length <= page &&
-           other.length <= page;
+    return (a ^ b) < page;
 }
 
-// The same for the entries of a group in a list.
-template <typename O>
-TENK_INLINE bool entriesOnOnePage(const O& o, std::size_t k, std::size_t objects)
+// The memory of the objects of one operand, each of them n adjacent elements in some rows: what is the same
+// for the whole call.
+template <typename O, unsigned rows, unsigned n>
+struct Span
 {
-    const Address first = o.p + k * sizeof(Address), last = first + objects * sizeof(Address) - 1;
-    return !O::list || first / page == last / page;
-}
+    using T = typename O::Value;
+    static constexpr unsigned size = O::single ? 1 : group<T>; // objects in a group
 
-// Matrices of fixed order to be read and then written, src and dst of a group that begins with object k. They
-// fit if nothing tells reading all of them first from finishing one after the other, src equal to dst
-// included.
-template <Member m>
-struct SourcesAndDestinations
-{
-    using T = Element<m>;
-    DenseView<T> src[group<T>], dst[group<T>];
+    // A few distances up to this one do not come round to where they began.
+    static constexpr Displacement nearby = 1 << 26;
 
-    TENK_INLINE bool fit(const Source<m>& s, const Destination<m>& d, std::size_t k)
+    Address offset, length; // the bytes of an object, from its start on
+    Address below, reach;   // without a list, those of a group: from `below` under the first start on
+    bool fits;              // no step is a long one; without a list, no object lies in another one
+
+    TENK_INLINE explicit Span(const O& o, bool written)
     {
-        constexpr unsigned n = m.size;
-        Bytes read[group<T>], written[group<T>];
-        if (!entriesOnOnePage(s, k, group<T>) || !entriesOnOnePage(d, k, group<T>))
-            return false;
-        for (std::size_t g = 0; g < group<T>; ++g) {
-            if (anyNullObject(k + g, s, d))
-                return false;
-            src[g] = s.object(k + g, n);
-            dst[g] = d.object(k + g, n);
-            read[g] = bytesOf(src[g], n, n);
-            written[g] = bytesOf(dst[g], n, n);
-            if (!onPagesOf(read[0], read[g]))
-                return false;
-            for (std::size_t earlier = 0; earlier < g; ++earlier)
-                if (!apart(written[earlier], read[g]) || !apart(written[earlier], written[g]))
-                    return false;
+        const Displacement rowStep = rows == 1 ? 0 : o.stride1;
+        const Address rest = times(rows - 1, rowStep), row = n * sizeof(T);
+        offset = rowStep < 0 ? rest : 0;
+        length = rowStep < 0 ? row - rest : row + rest;
+        below = offset;
+        reach = length;
+        fits = isShort(rowStep);
+        if constexpr (!O::list && !O::single) {
+            const Address step = static_cast<Address>(o.stride0), others = (size - 1) * step;
+            below += o.stride0 < 0 ? others : 0;
+            reach += o.stride0 < 0 ? 0 - others : others;
+            const auto bytes = static_cast<Displacement>(length);
+            fits &= isShort(o.stride0) && (!written || o.stride0 >= bytes || o.stride0 <= -bytes);
         }
+    }
+    TENK_INLINE static bool isShort(Displacement d) { return d >= -nearby && d <= nearby; }
+};
+
+// The objects of a group in one operand.
+template <typename O, unsigned rows, unsigned n>
+struct Side
+{
+    using T = typename O::Value;
+    static constexpr unsigned size = Span<O, rows, n>::size;
+
+    const Span<O, rows, n>& span;
+    DenseView<T> object[size];
+
+    // The list, if there is one, has no null entry for the group.
+    TENK_INLINE Side(const O& o, const Span<O, rows, n>& span, std::size_t k) : span(span)
+    {
+        object[0] = o.object(k, n);
+        each<size - 1>([&](auto g) TENK_LAMBDA {
+            if constexpr (O::list)
+                object[g + 1] = o.object(k + g + 1, n);
+            else
+                object[g + 1] = {object[g].start + static_cast<Address>(o.stride0), o.stride1};
+        });
+    }
+
+    // Row i of each.
+    TENK_INLINE Addresses<T> rowOfEach(std::size_t i) const
+    {
+        return Addresses<T>::make([&](std::size_t g) TENK_LAMBDA { return object[g].row(i); });
+    }
+    TENK_INLINE Bytes bytesOf(std::size_t g) const { return {object[g].start + span.offset, span.length}; }
+
+    // From the first byte of all to the last; nothing if that is too many.
+    TENK_INLINE bool together(Bytes& bytes) const
+    {
+        if constexpr (O::list) {
+            Address low = object[0].start, high = low;
+            each<size - 1>([&](auto g) TENK_LAMBDA {
+                const Address start = object[g + 1].start;
+                low = start < low ? start : low;
+                high = start > high ? start : high;
+            });
+            bytes = {low + span.offset, high - low + span.length};
+            return high - low <= Address{span.nearby};
+        } else {
+            bytes = {object[0].start + span.below, span.reach};
+            return true;
+        }
+    }
+
+    // No object lies in another one.
+    TENK_INLINE bool eachApart() const
+    {
+        bool all = true;
+        if constexpr (O::list) // otherwise a matter of the step
+            each<size>([&](auto g) TENK_LAMBDA {
+                each<g>([&](auto earlier) TENK_LAMBDA { all &= apart(bytesOf(earlier), bytesOf(g)); });
+            });
+        return all;
+    }
+
+    // Whether all may be read although the call could end before it comes to the second one: they lie in the
+    // pages of the first, which is read in any case.
+    TENK_INLINE bool onPagesOfFirst() const
+    {
+        Bytes all;
+        const Bytes first = bytesOf(0);
+        return together(all) && span.length <= page && onOnePage(all.first, first.first) &&
+               onOnePage(all.last(), first.last());
+    }
+};
+
+// The matrices of a group: a[i][j] holds element (i, j) of each. Without a gap between its rows a matrix is
+// one long row.
+template <typename O, unsigned n>
+TENK_INLINE bool isOneRow(const Side<O, n, n>& side)
+{
+    return side.object[0].rowStep == n * sizeof(typename O::Value);
+}
+template <typename O, unsigned n>
+TENK_INLINE void loadMatrices(const Side<O, n, n>& side, Vector<typename O::Value> (&a)[n][n])
+{
+    if (isOneRow(side))
+        loadSideBySide<n * n>(side.rowOfEach(0), a[0]);
+    else
+        each<n>([&](auto i) TENK_LAMBDA { loadSideBySide<n>(side.rowOfEach(i), a[i]); });
+}
+template <typename O, unsigned n>
+TENK_INLINE void storeMatrices(const Side<O, n, n>& side, const Vector<typename O::Value> (&a)[n][n])
+{
+    if (isOneRow(side))
+        storeSideBySide<n * n>(side.rowOfEach(0), a[0]);
+    else
+        each<n>([&](auto i) TENK_LAMBDA { storeSideBySide<n>(side.rowOfEach(i), a[i]); });
+}
+
+// Whether nothing tells reading all objects of a group first from finishing one after the other, for sides
+// that fit and results that lie apart. `sameObject`: an object is read before its result is written, so the
+// two may be the same memory.
+template <typename Read, typename Written>
+TENK_INLINE bool mayReadFirst(const Read& read, const Written& written, bool sameObject)
+{
+    Bytes in, out;
+    if (read.together(in) && written.together(out) && apart(in, out))
         return true;
-    }
-};
+    bool safe = true;
+    each<Read::size>([&](auto g) TENK_LAMBDA {
+        each<Read::size == 1 ? Written::size : g + 1>([&](auto earlier) TENK_LAMBDA {
+            if (!sameObject || earlier != g)
+                safe &= apart(written.bytesOf(earlier), read.bytesOf(g));
+        });
+    });
+    return safe;
+}
 
-// Factors, right-hand sides and solutions of fixed order of a group that begins with object k. They fit if
-// nothing tells reading all of them first from solving one after the other. `rightSideFirst`: an object's
-// right-hand side is read before its solution is written, so the two may be the same memory.
-template <Member m, bool rightSideFirst>
-struct SystemsAndSolutions
+// The entries of a group in a list lie on one page.
+template <typename O>
+TENK_INLINE bool entriesOnOnePage(const O& o, std::size_t k)
 {
-    using T = Element<m>;
-    DenseView<T> factor[group<T>], b[group<T>], x[group<T>];
+    const Address first = o.p + k * sizeof(Address);
+    return !O::list || onOnePage(first, first + group<typename O::Value> * sizeof(Address) - 1);
+}
 
-    TENK_INLINE bool fit(const Source<m, 0>& src1, const Source<m, 1>& src2, const Destination<m>& dst,
-                         std::size_t k)
-    {
-        constexpr unsigned n = m.size;
-        Bytes matrix[group<T>], read[group<T>], written[group<T>];
-        bool safe = true;
-        for (std::size_t g = 0; g < group<T>; ++g) {
-            if (anyNullObject(k + g, src1, src2, dst))
-                return false;
-            factor[g] = src1.object(k + g, n);
-            b[g] = src2.object(k + g, n);
-            x[g] = dst.object(k + g, n);
-            matrix[g] = bytesOf(factor[g], n, n);
-            read[g] = bytesOf(b[g], 1, n);
-            written[g] = bytesOf(x[g], 1, n);
-            for (std::size_t earlier = 0; earlier <= g; ++earlier) {
-                if (!rightSideFirst || earlier != g)
-                    safe &= apart(written[earlier], read[g]);
-                if (earlier != g)
-                    safe &= apart(written[earlier], written[g]);
-                safe &= apart(written[earlier], matrix[g]);
-            }
-        }
-        return safe;
-    }
-};
+// No list has a null entry for the group that begins with object k.
+template <typename... O>
+TENK_INLINE bool noNullObject(std::size_t objects, std::size_t k, const O&... operands)
+{
+    for (std::size_t g = 0; g < objects; ++g)
+        if (anyNullObject(k + g, operands...))
+            return false;
+    return true;
+}
 
 } // namespace tenk

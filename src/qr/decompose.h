@@ -40,7 +40,7 @@ TENK_INLINE bool isColumn(long double sumOfSquares)
 }
 TENK_INLINE bool isColumn(Vector<float> sumOfSquares)
 {
-    return !any(~(magnitude(sumOfSquares) >= broadcast(columnFloor)));
+    return all(magnitude(sumOfSquares) >= broadcast(columnFloor));
 }
 
 // A root or a quotient of binary32 numbers, rounded to more than twice their bits and then to theirs, is the
@@ -238,31 +238,45 @@ TENK_INLINE tenkStatus decomposeLocally(const DenseView<Element<m>>& src, const 
     return done ? tenkOk : tenkSingularError;
 }
 
-// A group of objects; false, and nothing written, if one of them has no factors.
+// The batch a group at a time.
 template <Member m>
-TENK_INLINE bool decomposeSideBySide(const SourcesAndDestinations<m>& operands, Address buffer)
+struct QRGroups
 {
     using T = Element<m>;
-    constexpr unsigned n = m.size;
-    Reflectors<Vector<T>, n> objects;
-    each<n>([&](auto i) TENK_LAMBDA {
-        const auto row = [&](std::size_t g) TENK_LAMBDA { return operands.src[g].row(i); };
-        loadSideBySide<n>(Addresses<T>::make(row), objects.a[i]);
-    });
-    const bool done = [&]<std::size_t... k>(std::index_sequence<k...>) TENK_LAMBDA
+    static constexpr unsigned n = m.size;
+
+    const Source<m>& src;
+    const Destination<m>& dst;
+    Address buffer;
+    Span<Source<m>, n, n> from{src, false};
+    Span<Destination<m>, n, n> to{dst, true};
+
+    TENK_INLINE bool fit() const { return from.fits && to.fits; }
+
+    // The group that begins with object k. False, with nothing written, if something could tell, or if an
+    // object has no factors.
+    TENK_INLINE bool decompose(std::size_t k) const
     {
-        return (objects.reflect(index<k>) && ...);
+        if (!entriesOnOnePage(src, k) || !entriesOnOnePage(dst, k) || !noNullObject(group<T>, k, src, dst))
+            return false;
+        const Side<Source<m>, n, n> sources(src, from, k);
+        const Side<Destination<m>, n, n> results(dst, to, k);
+        if (!sources.onPagesOfFirst() || !results.eachApart() || !mayReadFirst(sources, results, true))
+            return false;
+        Reflectors<Vector<T>, n> objects;
+        loadMatrices(sources, objects.a);
+        const bool done = [&]<std::size_t... step>(std::index_sequence<step...>) TENK_LAMBDA
+        {
+            return (objects.reflect(index<step>) && ...);
+        }
+        (std::make_index_sequence<n - 1>());
+        if (!done)
+            return false;
+        storeMatrices(results, objects.a);
+        each<n>([&](auto i) TENK_LAMBDA { store<T>(buffer + i * sizeof(T), objects.v[i][group<T> - 1]); });
+        return true;
     }
-    (std::make_index_sequence<n - 1>());
-    if (!done)
-        return false;
-    each<n>([&](auto i) TENK_LAMBDA {
-        const auto row = [&](std::size_t g) TENK_LAMBDA { return operands.dst[g].row(i); };
-        storeSideBySide<n>(Addresses<T>::make(row), objects.a[i]);
-        store<T>(buffer + i * sizeof(T), objects.v[i][group<T> - 1]);
-    });
-    return true;
-}
+};
 
 template <Member m>
 TENK_INLINE tenkStatus qrDecomp(Source<m> src, Element<m>* buffer, Destination<m> dst, Size<m> width,
@@ -281,9 +295,8 @@ TENK_INLINE tenkStatus qrDecomp(Source<m> src, Element<m>* buffer, Destination<m
     const bool local = reflectsLocally(m) && rowsApart<T>(dst.stride1, width);
     for (std::size_t k = 0; k < count; ++k) {
         if constexpr (reflectsSideBySide(m)) {
-            SourcesAndDestinations<m> operands;
-            while (local && count - k >= group<T> && operands.fit(src, dst, k) &&
-                   decomposeSideBySide<m>(operands, scratch))
+            const QRGroups<m> groups{src, dst, scratch};
+            while (local && groups.fit() && count - k >= group<T> && groups.decompose(k))
                 k += group<T>;
             if (k == count)
                 break;

@@ -102,36 +102,41 @@ consteval bool qrSolvesSideBySide(Member m)
     return m.batch() && !m.general() && isDense(m.layout) && !stepsByFourBytes(m) && !stepsByOneByte(m);
 }
 
+// The batch a group at a time.
 template <Member m>
-struct QRSolveGroup
+struct QRSolveGroups
 {
     using T = Element<m>;
     static constexpr unsigned n = m.size;
     static constexpr bool oneFactor = !m.operand[0].array;
 
-    SystemsAndSolutions<m, true> operands;
+    const Source<m, 0>& src1;
+    const Source<m, 1>& src2;
+    const Destination<m>& dst;
+    Address buffer;
+    Span<Source<m, 0>, n, n> matrices{src1, false};
+    Span<Source<m, 1>, 1, n> rightSides{src2, false};
+    Span<Destination<m>, 1, n> results{dst, true};
     Vector<T> factor[n][n];
     Vector<T> coefficient[n - 1];
+    bool loaded = false; // one factor, which is loaded once
 
-    // False if the objects have to be solved one after the other. One factor is read for the first group
-    // alone.
-    TENK_INLINE bool load(const Source<m, 0>& src1, const Source<m, 1>& src2, const Destination<m>& dst,
-                          std::size_t k)
+    TENK_INLINE QRSolveGroups(const Source<m, 0>& src1, Address buffer, const Source<m, 1>& src2,
+                              const Destination<m>& dst)
+        : src1(src1), src2(src2), dst(dst), buffer(buffer)
     {
-        if (!operands.fit(src1, src2, dst, k))
-            return false;
-        if (oneFactor && k > 0)
-            return true;
-        each<n>([&](auto i) TENK_LAMBDA {
-            if constexpr (oneFactor) {
-                const Address row = operands.factor[0].row(i);
-                each<n>([&](auto j)
-                            TENK_LAMBDA { factor[i][j] = broadcast(tenk::load<T>(row + j * sizeof(T))); });
-            } else {
-                const auto row = [&](std::size_t g) TENK_LAMBDA { return operands.factor[g].row(i); };
-                loadSideBySide<n>(Addresses<T>::make(row), factor[i]);
-            }
-        });
+    }
+
+    TENK_INLINE bool fit() const { return matrices.fits && rightSides.fits && results.fits; }
+
+    TENK_INLINE void loadFactor(const Side<Source<m, 0>, n, n>& a)
+    {
+        if constexpr (oneFactor)
+            each<n>([&](auto i) TENK_LAMBDA {
+                each<n>([&](auto j) TENK_LAMBDA { factor[i][j] = broadcast(load<T>(a.object[0].at(i, j))); });
+            });
+        else
+            loadMatrices(a, factor);
         each<n - 1>([&](auto k) TENK_LAMBDA {
             Vector<T> lengthSquared = broadcast<T>(1);
             each<n - 1 - k>([&](auto below) TENK_LAMBDA {
@@ -140,14 +145,11 @@ struct QRSolveGroup
             });
             coefficient[k] = broadcast<T>(-2) / lengthSquared;
         });
-        return true;
     }
 
-    TENK_INLINE void solve(Address buffer) const
+    // y is the right-hand side, and then the solution.
+    TENK_INLINE void solve(Vector<T> (&y)[n]) const
     {
-        Vector<T> y[n];
-        loadSideBySide<n>(Addresses<T>::make([&](std::size_t g) TENK_LAMBDA { return operands.b[g].start; }),
-                          y);
         each<n - 1>([&](auto k) TENK_LAMBDA {
             Vector<T> e = y[k];
             each<n - 1 - k>([&](auto below) TENK_LAMBDA {
@@ -170,10 +172,38 @@ struct QRSolveGroup
             each<n - 1 - i>([&](auto j) TENK_LAMBDA { sum = sum + factor[i][i + 1 + j] * y[i + 1 + j]; });
             y[i] = (y[i] - sum) / factor[i][i];
         });
-        storeSideBySide<n>(Addresses<T>::make([&](std::size_t g) TENK_LAMBDA { return operands.x[g].start; }),
-                           y);
+    }
+
+    // The group that begins with object k. False, with nothing written, if something could tell.
+    TENK_INLINE bool solve(std::size_t k)
+    {
+        if (!noNullObject(group<T>, k, src1, src2, dst))
+            return false;
+        const Side<Source<m, 0>, n, n> a(src1, matrices, k);
+        const Side<Source<m, 1>, 1, n> b(src2, rightSides, k);
+        const Side<Destination<m>, 1, n> x(dst, results, k);
+        if (!x.eachApart() || !mayReadFirst(a, x, false) || !mayReadFirst(b, x, true))
+            return false;
+        if (!loaded)
+            loadFactor(a);
+        loaded = oneFactor;
+        Vector<T> y[n];
+        loadSideBySide<n>(b.rowOfEach(0), y);
+        solve(y);
+        storeSideBySide<n>(x.rowOfEach(0), y);
+        return true;
     }
 };
+
+template <Member m>
+TENK_INLINE auto qrSolveGroups(const Source<m, 0>& src1, Address buffer, const Source<m, 1>& src2,
+                               const Destination<m>& dst)
+{
+    if constexpr (qrSolvesSideBySide(m))
+        return QRSolveGroups<m>(src1, buffer, src2, dst);
+    else
+        return Nothing{};
+}
 
 template <Member m>
 TENK_INLINE tenkStatus qrBackSubst(Source<m, 0> src1, Element<m>* buffer, Source<m, 1> src2,
@@ -189,13 +219,14 @@ TENK_INLINE tenkStatus qrBackSubst(Source<m, 0> src1, Element<m>* buffer, Source
         return tenkNullPointerError;
 
     const auto scratch = reinterpret_cast<Address>(buffer);
-    std::size_t k = 0;
-    if constexpr (qrSolvesSideBySide(m)) {
-        QRSolveGroup<m> objects;
-        for (; count - k >= group<T> && objects.load(src1, src2, dst, k); k += group<T>)
-            objects.solve(scratch);
-    }
-    for (; k < count; ++k) {
+    [[maybe_unused]] auto groups = qrSolveGroups<m>(src1, scratch, src2, dst);
+    for (std::size_t k = 0; k < count; ++k) {
+        if constexpr (qrSolvesSideBySide(m)) {
+            while (groups.fit() && count - k >= group<T> && groups.solve(k))
+                k += group<T>;
+            if (k == count)
+                break;
+        }
         if (anyNullObject(k, src1, src2, dst))
             return tenkNullPointerError;
         qrSolve<m>(reflectorsOf<m>(src1, k, width), triangleOf<m>(src1, k, width), scratch,
