@@ -6,7 +6,7 @@
 // multiplier l updates an element as x + pivotRow x (0 - l), the product rounded and then the sum.
 #pragma once
 
-#include "frame/side_by_side.h"
+#include "frame/groups.h"
 
 namespace tenk {
 
@@ -264,31 +264,22 @@ struct LUGroups
     static constexpr unsigned n = m.size;
     using Objects = Elimination<m, Vector<T>>;
 
-    const Source<m>& src;
-    const Destination<m>& dst;
+    const Matrices<m, group<T>> matrices;
     const std::uint32_t* rowIndex;
-    Span<Source<m>, n, n> from{src, false};
-    Span<Destination<m>, n, n> to{dst, true};
-
-    TENK_INLINE bool fit() const { return from.fits && to.fits; }
 
     // The group that begins with object k. False, with nothing written, if something could tell, or if an
     // object has a position without a pivot.
     TENK_INLINE bool decompose(std::size_t k, tenkStatus& status) const
     {
-        if (!entriesOnOnePage(src, k) || !entriesOnOnePage(dst, k) || !noNullObject(group<T>, k, src, dst))
-            return false;
-        const Side<Source<m>, n, n> sources(src, from, k);
-        const Side<Destination<m>, n, n> results(dst, to, k);
-        if (!sources.onPagesOfFirst() || !results.eachApart() || !mayReadFirst(sources, results, true))
-            return false;
-        Objects objects;
-        loadMatrices(sources, objects.a);
-        if (!objects.eliminate())
-            return false;
-        status = !objects.exchanged && isOneRow(results) ? storeInOrder(objects, results, k)
-                                                         : storeByIndex(objects, results, k);
-        return true;
+        return matrices.group(k, [&](const auto& sources, const auto& results) TENK_LAMBDA {
+            Objects objects;
+            loadMatrices(sources, objects.a);
+            if (!objects.eliminate())
+                return false;
+            status = !objects.exchanged && isOneRow(results) ? storeInOrder(objects, results, k)
+                                                             : storeByIndex(objects, results, k);
+            return true;
+        });
     }
 
     // Object by object: the last test of an object sees what stands before the next one is written.
@@ -348,9 +339,9 @@ TENK_INLINE tenkStatus luDecomp(Source<m> src, std::uint32_t* rowIndex, Destinat
     const bool local = decomposesLocally(m) && rowsApart<T>(dst.stride1, order);
     for (std::size_t k = 0; k < count; ++k) {
         if constexpr (decomposesLocally(m) && m.batch()) {
-            const LUGroups<m> groups{src, dst, rowIndex};
+            const LUGroups<m> groups{{src, dst}, rowIndex};
             tenkStatus status = tenkOk;
-            while (local && groups.fit() && count - k >= group<T> && groups.decompose(k, status)) {
+            while (local && groups.matrices.fit() && count - k >= group<T> && groups.decompose(k, status)) {
                 if (status != tenkOk)
                     return status;
                 k += group<T>;

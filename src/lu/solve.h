@@ -5,7 +5,7 @@
 // and the backward difference is divided by the pivot. The entries of rowIndex are used as they stand.
 #pragma once
 
-#include "frame/side_by_side.h"
+#include "frame/groups.h"
 
 namespace tenk {
 
@@ -143,7 +143,7 @@ struct LUSolveGroups
     // The group that begins with object k. False, with nothing written, if something could tell.
     TENK_INLINE bool solve(std::size_t k)
     {
-        if (!noNullObject(group<T>, k, src1, src2, dst))
+        if (!noNullObject<group<T>>(k, src1, src2, dst))
             return false;
         const Side<Source<m, 0>, n, n> a(src1, matrices, k);
         const Side<Source<m, 1>, 1, n> b(src2, rightSides, k);
