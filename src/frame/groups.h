@@ -70,6 +70,30 @@ struct Span
     TENK_INLINE static bool isShort(Displacement d) { return d >= -nearby && d <= nearby; }
 };
 
+// Whether no object of an operand lies in one of another, of a whole batch. Without an answer, as for lists,
+// no.
+template <typename A, typename SpanA, typename B, typename SpanB>
+TENK_INLINE bool apartThroughout(const A& a, const SpanA& spanA, const B& b, const SpanB& spanB,
+                                 std::size_t count)
+{
+    if constexpr (A::list || B::list) {
+        return false;
+    } else {
+        constexpr std::uint64_t limit = 1U << 30; // which no sum below comes round
+        const auto bytes = [&](const auto& o, const auto& span, std::uint64_t& length) TENK_LAMBDA {
+            const bool back = o.stride0 < 0;
+            const std::uint64_t step = static_cast<Address>(back ? -o.stride0 : o.stride0);
+            const std::uint64_t others = o.single ? 0 : (count - 1) * step;
+            length = others + span.length;
+            return Bytes{o.p + span.offset - (back ? static_cast<Address>(others) : 0),
+                         static_cast<Address>(length)};
+        };
+        std::uint64_t lengthA, lengthB;
+        const Bytes bytesA = bytes(a, spanA, lengthA), bytesB = bytes(b, spanB, lengthB);
+        return lengthA <= limit && lengthB <= limit && apart(bytesA, bytesB);
+    }
+}
+
 // The objects of a group in one operand.
 template <typename O, unsigned rows, unsigned n, unsigned objects = group<typename O::Value>>
 struct Side

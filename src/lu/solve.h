@@ -47,6 +47,25 @@ TENK_INLINE bool rowsInRange(Address rowIndex)
     return inRange;
 }
 
+// Whether no row was exchanged.
+template <unsigned order, unsigned entries>
+TENK_INLINE bool rowsInOrder(Address rowIndex)
+{
+    constexpr unsigned four = entries / 4;
+    Mask<float> exchanged{};
+    each<four>([&](auto v) TENK_LAMBDA {
+        constexpr int e = static_cast<int>(v) * 4, n = order;
+        exchanged |=
+            load<Mask<float>>(rowIndex + v * 16) ^ Mask<float>{e % n, (e + 1) % n, (e + 2) % n, (e + 3) % n};
+    });
+    bool inOrder = all(exchanged == Mask<float>{});
+    each<entries % 4>([&](auto e) TENK_LAMBDA {
+        constexpr std::size_t entry = four * 4 + e;
+        inOrder &= rowAt(rowIndex, entry) == entry % order;
+    });
+    return inOrder;
+}
+
 // One object, in place in dst.
 template <Member m, typename Factor, typename B, typename X>
 TENK_INLINE void luSolve(const Factor& factor, Address rowIndex, const B& b, const X& x, Size<m> order)
@@ -78,7 +97,7 @@ TENK_INLINE void luSolve(const Factor& factor, Address rowIndex, const B& b, con
 
 consteval bool luSolvesSideBySide(Member m)
 {
-    return m.batch() && !m.general() && isDense(m.layout) && !stepsByFourBytes(m);
+    return m.batch() && !m.general() && isDense(m.layout);
 }
 
 template <typename T, unsigned n>
@@ -116,12 +135,15 @@ struct LUSolveGroups
     Span<Destination<m>, 1, n> results{dst, true};
     Vector<T> factor[n][n];  // in the order of the positions
     std::size_t position[n]; // those of one factor
+    bool apart = false;      // throughout the batch
     bool loaded = false;     // which is done once
 
     TENK_INLINE LUSolveGroups(const Source<m, 0>& src1, Address rowIndex, const Source<m, 1>& src2,
-                              const Destination<m>& dst)
+                              const Destination<m>& dst, std::size_t count)
         : src1(src1), src2(src2), dst(dst), rowIndex(rowIndex)
     {
+        apart = count > 0 && apartThroughout(src1, matrices, dst, results, count) &&
+                apartThroughout(src2, rightSides, dst, results, count);
     }
 
     TENK_INLINE bool fit() const { return matrices.fits && rightSides.fits && results.fits; }
@@ -131,11 +153,10 @@ struct LUSolveGroups
     {
         if (!rowsInRange<n, n>(rowIndex))
             return false;
-        const auto view = src1.object(0, n);
+        const auto view = luFactor<m>(src1, 0, n);
         each<n>([&](auto i) TENK_LAMBDA {
             position[i] = rowAt(rowIndex, i);
-            const Address row = view.row(position[i]);
-            each<n>([&](auto j) TENK_LAMBDA { factor[i][j] = broadcast(load<T>(row + j * sizeof(T))); });
+            each<n>([&](auto j) TENK_LAMBDA { factor[i][j] = broadcast(load<T>(view.at(position[i], j))); });
         });
         return true;
     }
@@ -148,7 +169,7 @@ struct LUSolveGroups
         const Side<Source<m, 0>, n, n> a(src1, matrices, k);
         const Side<Source<m, 1>, 1, n> b(src2, rightSides, k);
         const Side<Destination<m>, 1, n> to(dst, results, k);
-        if (!to.eachApart() || !mayReadFirst(a, to, false) || !mayReadFirst(b, to, false))
+        if (!to.eachApart() || (!apart && (!mayReadFirst(a, to, false) || !mayReadFirst(b, to, false))))
             return false;
         Vector<T> x[n];
         if constexpr (oneFactor) {
@@ -160,15 +181,21 @@ struct LUSolveGroups
             each<n>([&](auto i) TENK_LAMBDA { x[i] = rightSide[position[i]]; });
         } else {
             const Address first = rowIndex + k * n * sizeof(std::uint32_t);
-            if (!rowsInRange<n, n * group<T>>(first))
+            if (rowsInOrder<n, n * group<T>>(first)) {
+                loadMatrices(a, factor);
+                loadSideBySide<n>(b.rowOfEach(0), x);
+            } else if (rowsInRange<n, n * group<T>>(first)) {
+                each<n>([&](auto i) TENK_LAMBDA {
+                    const auto row = [&](std::size_t g) TENK_LAMBDA { return rowAt(first, g * n + i); };
+                    const auto ofFactor = [&](std::size_t g) TENK_LAMBDA { return a.object[g].row(row(g)); };
+                    const auto ofRightSide = [&](std::size_t g)
+                                                 TENK_LAMBDA { return b.object[g].at(0, row(g)); };
+                    loadSideBySide<n>(Addresses<T>::make(ofFactor), factor[i]);
+                    x[i] = gather(Addresses<T>::make(ofRightSide));
+                });
+            } else {
                 return false;
-            each<n>([&](auto i) TENK_LAMBDA {
-                const auto row = [&](std::size_t g) TENK_LAMBDA { return rowAt(first, g * n + i); };
-                const auto ofFactor = [&](std::size_t g) TENK_LAMBDA { return a.object[g].row(row(g)); };
-                const auto ofRightSide = [&](std::size_t g) TENK_LAMBDA { return b.object[g].at(0, row(g)); };
-                loadSideBySide<n>(Addresses<T>::make(ofFactor), factor[i]);
-                x[i] = gather(Addresses<T>::make(ofRightSide));
-            });
+            }
         }
         luSolve<T, n>(factor, x);
         storeSideBySide<n>(to.rowOfEach(0), x);
@@ -178,10 +205,10 @@ struct LUSolveGroups
 
 template <Member m>
 TENK_INLINE auto luSolveGroups(const Source<m, 0>& src1, Address rowIndex, const Source<m, 1>& src2,
-                               const Destination<m>& dst)
+                               const Destination<m>& dst, std::size_t count)
 {
     if constexpr (luSolvesSideBySide(m))
-        return LUSolveGroups<m>(src1, rowIndex, src2, dst);
+        return LUSolveGroups<m>(src1, rowIndex, src2, dst, count);
     else
         return Nothing{};
 }
@@ -200,7 +227,7 @@ TENK_INLINE tenkStatus luBackSubst(Source<m, 0> src1, const std::uint32_t* rowIn
         return tenkNullPointerError;
 
     const auto index = reinterpret_cast<Address>(rowIndex);
-    [[maybe_unused]] auto groups = luSolveGroups<m>(src1, index, src2, dst);
+    [[maybe_unused]] auto groups = luSolveGroups<m>(src1, index, src2, dst, count);
     for (std::size_t k = 0; k < count; ++k) {
         if constexpr (luSolvesSideBySide(m)) {
             while (groups.fit() && count - k >= group<T> && groups.solve(k))

@@ -99,7 +99,7 @@ TENK_INLINE void qrSolve(const V& v, const R& r, Address buffer, const B& b, con
 
 consteval bool qrSolvesSideBySide(Member m)
 {
-    return m.batch() && !m.general() && isDense(m.layout) && !stepsByFourBytes(m) && !stepsByOneByte(m);
+    return m.batch() && !m.general() && isDense(m.layout) && !stepsByOneByte(m);
 }
 
 // The batch a group at a time.
@@ -119,24 +119,29 @@ struct QRSolveGroups
     Span<Destination<m>, 1, n> results{dst, true};
     Vector<T> factor[n][n];
     Vector<T> coefficient[n - 1];
+    bool apart = false;  // throughout the batch
     bool loaded = false; // one factor, which is loaded once
 
     TENK_INLINE QRSolveGroups(const Source<m, 0>& src1, Address buffer, const Source<m, 1>& src2,
-                              const Destination<m>& dst)
+                              const Destination<m>& dst, std::size_t count)
         : src1(src1), src2(src2), dst(dst), buffer(buffer)
     {
+        apart = count > 0 && apartThroughout(src1, matrices, dst, results, count) &&
+                apartThroughout(src2, rightSides, dst, results, count);
     }
 
     TENK_INLINE bool fit() const { return matrices.fits && rightSides.fits && results.fits; }
 
     TENK_INLINE void loadFactor(const Side<Source<m, 0>, n, n>& a)
     {
-        if constexpr (oneFactor)
+        if constexpr (oneFactor) {
+            const auto view = reflectorsOf<m>(src1, 0, n);
             each<n>([&](auto i) TENK_LAMBDA {
-                each<n>([&](auto j) TENK_LAMBDA { factor[i][j] = broadcast(load<T>(a.object[0].at(i, j))); });
+                each<n>([&](auto j) TENK_LAMBDA { factor[i][j] = broadcast(load<T>(view.at(i, j))); });
             });
-        else
+        } else {
             loadMatrices(a, factor);
+        }
         each<n - 1>([&](auto k) TENK_LAMBDA {
             Vector<T> lengthSquared = broadcast<T>(1);
             each<n - 1 - k>([&](auto below) TENK_LAMBDA {
@@ -182,7 +187,7 @@ struct QRSolveGroups
         const Side<Source<m, 0>, n, n> a(src1, matrices, k);
         const Side<Source<m, 1>, 1, n> b(src2, rightSides, k);
         const Side<Destination<m>, 1, n> x(dst, results, k);
-        if (!x.eachApart() || !mayReadFirst(a, x, false) || !mayReadFirst(b, x, true))
+        if (!x.eachApart() || (!apart && (!mayReadFirst(a, x, false) || !mayReadFirst(b, x, true))))
             return false;
         if (!loaded)
             loadFactor(a);
@@ -197,10 +202,10 @@ struct QRSolveGroups
 
 template <Member m>
 TENK_INLINE auto qrSolveGroups(const Source<m, 0>& src1, Address buffer, const Source<m, 1>& src2,
-                               const Destination<m>& dst)
+                               const Destination<m>& dst, std::size_t count)
 {
     if constexpr (qrSolvesSideBySide(m))
-        return QRSolveGroups<m>(src1, buffer, src2, dst);
+        return QRSolveGroups<m>(src1, buffer, src2, dst, count);
     else
         return Nothing{};
 }
@@ -219,7 +224,7 @@ TENK_INLINE tenkStatus qrBackSubst(Source<m, 0> src1, Element<m>* buffer, Source
         return tenkNullPointerError;
 
     const auto scratch = reinterpret_cast<Address>(buffer);
-    [[maybe_unused]] auto groups = qrSolveGroups<m>(src1, scratch, src2, dst);
+    [[maybe_unused]] auto groups = qrSolveGroups<m>(src1, scratch, src2, dst, count);
     for (std::size_t k = 0; k < count; ++k) {
         if constexpr (qrSolvesSideBySide(m)) {
             while (groups.fit() && count - k >= group<T> && groups.solve(k))
