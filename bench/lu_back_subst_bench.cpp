@@ -20,16 +20,16 @@ struct Solve
         auto a = std::make_shared<Matrices<T, factorLayout, n>>(factorCount, 1);
         auto f = std::make_shared<Matrices<T, factorLayout, n>>(factorCount, 2);
         auto rows = std::make_shared<std::vector<std::uint32_t>>(std::size_t{n} * factorCount);
-        bind(memberOf<T, n, factorLayout>("LUDecomp", "ma", general), a->array(),
-             std::make_tuple(rows->data()), f->array(), sizes<general, n, 1>(),
-             std::make_tuple(std::uint32_t{factorCount}))();
+        bench::bind(memberOf<T, n, factorLayout>("LUDecomp", "ma", general), a->array(),
+                    std::make_tuple(rows->data()), f->array(), sizes<general, n, 1>(),
+                    std::make_tuple(std::uint32_t{factorCount}))();
 
         using Vectors = Batch<T, layout, 1, n>;
         auto b = std::make_shared<Vectors>(count, 3), x = std::make_shared<Vectors>(count, 4);
         const auto run = [&](auto factor) {
-            return bind(function, factor, std::make_tuple(static_cast<const std::uint32_t*>(rows->data())),
-                        b->array(), x->array(), sizes<general, n, 1>(),
-                        std::make_tuple(std::uint32_t{count}));
+            return bench::bind(function, factor,
+                               std::make_tuple(static_cast<const std::uint32_t*>(rows->data())), b->array(),
+                               x->array(), sizes<general, n, 1>(), std::make_tuple(std::uint32_t{count}));
         };
         if constexpr (oneFactor)
             contestant(c, "tenk", [f, b, x, rows, run = run(f->factor())] { run(); });

@@ -16,9 +16,10 @@ struct Decompose
         using Objects = Matrices<T, layout, n>;
         auto a = std::make_shared<Objects>(count, 1), d = std::make_shared<Objects>(count, 2);
         auto rows = std::make_shared<std::vector<std::uint32_t>>(std::size_t{n} * count);
-        contestant(c, "tenk",
-                   [a, d, rows,
-                    run = bind(function, a->array(), std::make_tuple(rows->data()), d->array(),
+        contestant(
+            c, "tenk",
+            [a, d, rows,
+             run = bench::bind(function, a->array(), std::make_tuple(rows->data()), d->array(),
                                sizes<general, n, 1>(), std::make_tuple(std::uint32_t{count}))] { run(); });
         using Lu = Eigen::PartialPivLU<Eigen::Matrix<T, n, n, Eigen::RowMajor>>;
         auto factors = std::make_shared<std::vector<Lu>>(count);

@@ -20,15 +20,15 @@ struct Solve
         auto a = std::make_shared<Matrices<T, factorLayout, n>>(factorCount, 1);
         auto f = std::make_shared<Matrices<T, factorLayout, n>>(factorCount, 2);
         auto buffer = std::make_shared<std::vector<T>>(n);
-        bind(memberOf<T, n, factorLayout>("QRDecomp", "ma", general), a->array(),
-             std::make_tuple(buffer->data()), f->array(), sizes<general, n, 2>(),
-             std::make_tuple(std::uint32_t{factorCount}))();
+        bench::bind(memberOf<T, n, factorLayout>("QRDecomp", "ma", general), a->array(),
+                    std::make_tuple(buffer->data()), f->array(), sizes<general, n, 2>(),
+                    std::make_tuple(std::uint32_t{factorCount}))();
 
         using Vectors = Batch<T, layout, 1, n>;
         auto b = std::make_shared<Vectors>(count, 3), x = std::make_shared<Vectors>(count, 4);
         const auto run = [&](auto factor) {
-            return bind(function, factor, std::make_tuple(buffer->data()), b->array(), x->array(),
-                        sizes<general, n, 2>(), std::make_tuple(std::uint32_t{count}));
+            return bench::bind(function, factor, std::make_tuple(buffer->data()), b->array(), x->array(),
+                               sizes<general, n, 2>(), std::make_tuple(std::uint32_t{count}));
         };
         if constexpr (oneFactor)
             contestant(c, "tenk", [f, b, x, buffer, run = run(f->factor())] { run(); });

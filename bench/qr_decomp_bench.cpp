@@ -16,9 +16,10 @@ struct Decompose
         using Objects = Matrices<T, layout, n>;
         auto a = std::make_shared<Objects>(count, 1), d = std::make_shared<Objects>(count, 2);
         auto buffer = std::make_shared<std::vector<T>>(n);
-        contestant(c, "tenk",
-                   [a, d, buffer,
-                    run = bind(function, a->array(), std::make_tuple(buffer->data()), d->array(),
+        contestant(
+            c, "tenk",
+            [a, d, buffer,
+             run = bench::bind(function, a->array(), std::make_tuple(buffer->data()), d->array(),
                                sizes<general, n, 2>(), std::make_tuple(std::uint32_t{count}))] { run(); });
         using Qr = Eigen::HouseholderQR<Eigen::Matrix<T, n, n, Eigen::RowMajor>>;
         auto factors = std::make_shared<std::vector<Qr>>(count);

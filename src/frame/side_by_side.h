@@ -65,6 +65,30 @@ TENK_INLINE bool any(Mask<double> v)
     return _mm_movemask_pd(reinterpret_cast<__m128d>(v)) != 0;
 }
 
+TENK_INLINE bool all(Mask<float> v)
+{
+    return _mm_movemask_ps(reinterpret_cast<__m128>(v)) == 0xF;
+}
+TENK_INLINE bool all(Mask<double> v)
+{
+    return _mm_movemask_pd(reinterpret_cast<__m128d>(v)) == 0x3;
+}
+
+// Exchanges the lanes of two vectors where the mask is set. In intrinsics: the compiler takes the same in
+// operators for a choice, for which SSE2 has no instruction, and makes it lane by lane.
+TENK_INLINE void exchangeWhere(Mask<float> mask, Vector<float>& a, Vector<float>& b)
+{
+    const __m128 change = _mm_and_ps(_mm_xor_ps(a, b), reinterpret_cast<__m128>(mask));
+    a = _mm_xor_ps(a, change);
+    b = _mm_xor_ps(b, change);
+}
+TENK_INLINE void exchangeWhere(Mask<double> mask, Vector<double>& a, Vector<double>& b)
+{
+    const __m128d change = _mm_and_pd(_mm_xor_pd(a, b), reinterpret_cast<__m128d>(mask));
+    a = _mm_xor_pd(a, change);
+    b = _mm_xor_pd(b, change);
+}
+
 // The larger one, and b if one of them is a NaN: a > b ? a : b.
 TENK_INLINE Vector<float> larger(Vector<float> a, Vector<float> b)
 {
@@ -144,7 +168,8 @@ template <unsigned n>
 TENK_INLINE void loadSideBySide(const Addresses<double>& from, Vector<double>* to)
 {
     if constexpr (n >= 2) {
-        const auto first = loadVector<double>(from.of[0]), second = loadVector<double>(from.of[1]);
+        const auto first = inRegister(loadVector<double>(from.of[0]));
+        const auto second = inRegister(loadVector<double>(from.of[1]));
         to[0] = shuffle<0, 2>(first, second);
         to[1] = shuffle<1, 3>(first, second);
         loadSideBySide<n - 2>(behind<double>(from, 16), to + 2);
@@ -184,123 +209,66 @@ TENK_INLINE void storeSideBySide(const Addresses<double>& to, const Vector<doubl
     }
 }
 
-// ---------------------------------------------------------------------------------------------------------------
-// Which objects may stand side by side
-// ---------------------------------------------------------------------------------------------------------------
+// Rows of n elements that are worked on side by side, to be stored one object after the other. `from` holds
+// an element of each object, row after row.
+template <typename T, unsigned rows, unsigned n>
+struct RowsOfObjects;
 
-// The bytes of an object of n adjacent elements in each of some rows.
-struct Bytes
+template <unsigned rows, unsigned n>
+struct RowsOfObjects<float, rows, n>
 {
-    Address first, length;
-};
-template <typename T>
-TENK_INLINE Bytes bytesOf(const DenseView<T>& view, std::size_t rows, std::size_t n)
-{
-    const Address rest = times(rows - 1, view.rowStep), row = n * sizeof(T);
-    if (view.rowStep < 0)
-        return {view.start + rest, row - rest};
-    return {view.start, row + rest};
-}
+    Row<float, n> row[rows][4];
 
-TENK_INLINE bool apart(const Bytes& a, const Bytes& b)
-{
-    return b.first - a.first >= a.length && a.first - b.first >= b.length;
-}
-
-// No row of an object lies in another one.
-template <typename T>
-TENK_INLINE bool rowsApart(Displacement rowStep, std::size_t n)
-{
-    const auto row = static_cast<Displacement>(n * sizeof(T));
-    return rowStep >= row || rowStep <= -row;
-}
-
-// Whether an object may be read although the call could end before it comes to that object: memory is
-// readable by whole pages, and this one's are pages of an object that is read in any case.
-inline constexpr Address page = 4096;
-
-TENK_INLINE bool onPagesOf(const Bytes& sure, const Bytes& other)
-{
-    const Address firstPage = sure.first / page, lastPage = (sure.first + sure.length - 1) / page;
-    const auto covered = [&](Address byte)
-                             TENK_LAMBDA { return byte / page == firstPage || byte / page == lastPage; };
-    return covered(other.first) && covered(other.first + other.length - 1) && sure.length <= page &&
-           other.length <= page;
-}
-
-// The same for the entries of a group in a list.
-template <typename O>
-TENK_INLINE bool entriesOnOnePage(const O& o, std::size_t k, std::size_t objects)
-{
-    const Address first = o.p + k * sizeof(Address), last = first + objects * sizeof(Address) - 1;
-    return !O::list || first / page == last / page;
-}
-
-// Matrices of fixed order to be read and then written, src and dst of a group that begins with object k. They
-// fit if nothing tells reading all of them first from finishing one after the other, src equal to dst
-// included.
-template <Member m>
-struct SourcesAndDestinations
-{
-    using T = Element<m>;
-    DenseView<T> src[group<T>], dst[group<T>];
-
-    TENK_INLINE bool fit(const Source<m>& s, const Destination<m>& d, std::size_t k)
+    TENK_INLINE explicit RowsOfObjects(const Vector<float>* from)
     {
-        constexpr unsigned n = m.size;
-        Bytes read[group<T>], written[group<T>];
-        if (!entriesOnOnePage(s, k, group<T>) || !entriesOnOnePage(d, k, group<T>))
-            return false;
-        for (std::size_t g = 0; g < group<T>; ++g) {
-            if (anyNullObject(k + g, s, d))
-                return false;
-            src[g] = s.object(k + g, n);
-            dst[g] = d.object(k + g, n);
-            read[g] = bytesOf(src[g], n, n);
-            written[g] = bytesOf(dst[g], n, n);
-            if (!onPagesOf(read[0], read[g]))
-                return false;
-            for (std::size_t earlier = 0; earlier < g; ++earlier)
-                if (!apart(written[earlier], read[g]) || !apart(written[earlier], written[g]))
-                    return false;
-        }
-        return true;
+        constexpr unsigned full = n / 4;
+        each<rows>([&](auto p) TENK_LAMBDA {
+            each<full>([&](auto v) TENK_LAMBDA {
+                const Vector<float>* const column = from + p * n + v * 4;
+                Vector<float> object[4] = {column[0], column[1], column[2], column[3]};
+                turn(object[0], object[1], object[2], object[3]);
+                each<4>([&](auto g) TENK_LAMBDA { row[p][g].vector[v] = object[g]; });
+            });
+            const Vector<float>* const left = from + p * n + full * 4;
+            if constexpr (n % 4 == 1) {
+                each<4>([&](auto g) TENK_LAMBDA { row[p][g].rest = left[0][std::size_t{g}]; });
+            } else if constexpr (n % 4 == 2) {
+                const auto low = shuffle<0, 4, 1, 5>(left[0], left[1]);
+                const auto high = shuffle<2, 6, 3, 7>(left[0], left[1]);
+                row[p][0].rest = low;
+                row[p][1].rest = shuffle<2, 3, 6, 7>(low, low);
+                row[p][2].rest = high;
+                row[p][3].rest = shuffle<2, 3, 6, 7>(high, high);
+            } else if constexpr (n % 4 == 3) {
+                Vector<float> object[4] = {left[0], left[1], left[1], left[2]};
+                turn(object[0], object[1], object[2], object[3]);
+                each<4>([&](auto g) TENK_LAMBDA { row[p][g].rest = object[g]; });
+            }
+        });
+    }
+    template <std::size_t p, std::size_t g>
+    TENK_INLINE const Row<float, n>& get(Index<p>, Index<g>) const
+    {
+        return row[p][g];
     }
 };
 
-// Factors, right-hand sides and solutions of fixed order of a group that begins with object k. They fit if
-// nothing tells reading all of them first from solving one after the other. `rightSideFirst`: an object's
-// right-hand side is read before its solution is written, so the two may be the same memory.
-template <Member m, bool rightSideFirst>
-struct SystemsAndSolutions
+template <unsigned rows, unsigned n>
+struct RowsOfObjects<double, rows, n>
 {
-    using T = Element<m>;
-    DenseView<T> factor[group<T>], b[group<T>], x[group<T>];
+    const Vector<double>* from;
 
-    TENK_INLINE bool fit(const Source<m, 0>& src1, const Source<m, 1>& src2, const Destination<m>& dst,
-                         std::size_t k)
+    TENK_INLINE explicit RowsOfObjects(const Vector<double>* from) : from(from) {}
+    template <std::size_t p, std::size_t g>
+    TENK_INLINE Row<double, n> get(Index<p>, Index<g>) const
     {
-        constexpr unsigned n = m.size;
-        Bytes matrix[group<T>], read[group<T>], written[group<T>];
-        bool safe = true;
-        for (std::size_t g = 0; g < group<T>; ++g) {
-            if (anyNullObject(k + g, src1, src2, dst))
-                return false;
-            factor[g] = src1.object(k + g, n);
-            b[g] = src2.object(k + g, n);
-            x[g] = dst.object(k + g, n);
-            matrix[g] = bytesOf(factor[g], n, n);
-            read[g] = bytesOf(b[g], 1, n);
-            written[g] = bytesOf(x[g], 1, n);
-            for (std::size_t earlier = 0; earlier <= g; ++earlier) {
-                if (!rightSideFirst || earlier != g)
-                    safe &= apart(written[earlier], read[g]);
-                if (earlier != g)
-                    safe &= apart(written[earlier], written[g]);
-                safe &= apart(written[earlier], matrix[g]);
-            }
-        }
-        return safe;
+        const Vector<double>* const column = from + p * n;
+        Row<double, n> row;
+        each<n / 2>([&](auto v)
+                        TENK_LAMBDA { row.vector[v] = shuffle<g, 2 + g>(column[2 * v], column[2 * v + 1]); });
+        if constexpr (n % 2 == 1)
+            row.rest = column[n - 1][g];
+        return row;
     }
 };
 

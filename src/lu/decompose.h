@@ -6,7 +6,7 @@
 // multiplier l updates an element as x + pivotRow x (0 - l), the product rounded and then the sum.
 #pragma once
 
-#include "frame/side_by_side.h"
+#include "frame/groups.h"
 
 namespace tenk {
 
@@ -36,7 +36,7 @@ TENK_INLINE bool isPivot(T x)
 template <typename T>
 TENK_INLINE bool arePivots(Vector<T> x)
 {
-    return !any(~(magnitude(x) >= broadcast<T>(pivotFloor)));
+    return all(magnitude(x) >= broadcast<T>(pivotFloor));
 }
 
 // The row permutation of object k: order entries for each object, one object after the other.
@@ -130,13 +130,19 @@ struct Elimination
 
     V a[n][n];
     Number index[n];
+    bool exchanged = false; // of any object side by side
 
     // Brings the row of the largest magnitude to position p.
     template <std::size_t p>
     TENK_INLINE void exchange(Index<p>)
     {
         if constexpr (sideBySide) {
-            exchangeByMasks(tenk::index<p>);
+            V best = magnitude(a[p][p]);
+            each<n - 1 - p>([&](auto i) TENK_LAMBDA { best = larger(magnitude(a[p + 1 + i][p]), best); });
+            if (any(best > magnitude(a[p][p]))) {
+                exchanged = true;
+                exchangeByMasks(tenk::index<p>);
+            }
         } else {
             std::size_t best = p;
             T bestMagnitude = magnitude(a[p][p]);
@@ -170,24 +176,19 @@ struct Elimination
             constexpr std::size_t q = n - 1 - i;
             const Number isBest = isBetter[q] & ~taken;
             taken |= isBetter[q];
-            isBetter[q] = isBest;
+            exchangeRows(isBest, tenk::index<p>, tenk::index<q>);
         });
-        each<n>([&](auto j) TENK_LAMBDA {
-            const Number old = bits<T>(a[p][j]);
-            Number x = old;
-            each<n - 1 - p>([&](auto i) TENK_LAMBDA {
-                const Number change = (old ^ bits<T>(a[p + 1 + i][j])) & isBetter[p + 1 + i];
-                x ^= change;
-                a[p + 1 + i][j] = fromBits<T>(bits<T>(a[p + 1 + i][j]) ^ change);
-            });
-            a[p][j] = fromBits<T>(x);
-        });
-        const Number old = index[p];
-        each<n - 1 - p>([&](auto i) TENK_LAMBDA {
-            const Number change = (old ^ index[p + 1 + i]) & isBetter[p + 1 + i];
-            index[p] ^= change;
-            index[p + 1 + i] ^= change;
-        });
+    }
+
+    // Exchanges positions p and q of the objects that a mask tells.
+    template <std::size_t p, std::size_t q>
+    TENK_INLINE void exchangeRows(Number mask, Index<p>, Index<q>)
+    {
+        each<n>([&](auto j) TENK_LAMBDA { exchangeWhere(mask, a[p][j], a[q][j]); });
+        auto first = fromBits<T>(index[p]), second = fromBits<T>(index[q]);
+        exchangeWhere(mask, first, second);
+        index[p] = bits<T>(first);
+        index[q] = bits<T>(second);
     }
 
     // False as soon as an object has no pivot: nothing is computed from what is not one.
@@ -255,50 +256,72 @@ TENK_INLINE tenkStatus decomposeLocally(const DenseView<Element<m>>& src, const 
     return done ? testLastPivot<m>(dst, rowIndex, n, k) : tenkSingularError;
 }
 
-// A group of objects; false, and nothing written, if one of them has a position without a pivot.
+// The batch a group at a time.
 template <Member m>
-TENK_INLINE bool eliminateSideBySide(Elimination<m, Vector<Element<m>>>& objects,
-                                     const SourcesAndDestinations<m>& operands)
+struct LUGroups
 {
     using T = Element<m>;
-    constexpr unsigned n = m.size;
-    each<n>([&](auto i) TENK_LAMBDA {
-        const auto row = [&](std::size_t g) TENK_LAMBDA { return operands.src[g].row(i); };
-        loadSideBySide<n>(Addresses<T>::make(row), objects.a[i]);
-    });
-    return objects.eliminate();
-}
+    static constexpr unsigned n = m.size;
+    using Objects = Elimination<m, Vector<T>>;
 
-// Object by object: the last test of an object sees what stands before the next one is written.
-template <Member m>
-TENK_INLINE tenkStatus storeObjects(const Elimination<m, Vector<Element<m>>>& objects,
-                                    const SourcesAndDestinations<m>& operands, const std::uint32_t* rowIndex,
-                                    std::size_t k)
-{
-    using T = Element<m>;
-    constexpr unsigned n = m.size;
-    T row[n][group<T>][n];
-    std::uint32_t position[n][group<T>];
-    each<n>([&](auto p) TENK_LAMBDA {
-        storeSideBySide<n>(Addresses<T>::make([&](std::size_t g) TENK_LAMBDA {
-                               return reinterpret_cast<Address>(row[p][g]);
-                           }),
-                           objects.a[p]);
-        each<group<T>>([&](auto g) TENK_LAMBDA {
-            position[p][g] = static_cast<std::uint32_t>(objects.index[p][std::size_t{g}]);
+    const Matrices<m, group<T>> matrices;
+    const std::uint32_t* rowIndex;
+
+    // The group that begins with object k. False, with nothing written, if something could tell, or if an
+    // object has a position without a pivot.
+    TENK_INLINE bool decompose(std::size_t k, tenkStatus& status) const
+    {
+        return matrices.group(k, [&](const auto& sources, const auto& results) TENK_LAMBDA {
+            Objects objects;
+            loadMatrices(sources, objects.a);
+            if (!objects.eliminate())
+                return false;
+            status = !objects.exchanged && isOneRow(results) ? storeInOrder(objects, results, k)
+                                                             : storeByIndex(objects, results, k);
+            return true;
         });
-    });
-    for (std::size_t g = 0; g < group<T>; ++g) {
-        const RowIndex to(rowIndex, k + g, n);
-        each<n>([&](auto p) TENK_LAMBDA {
-            to.set(p, position[p][g]);
-            Row<T, n>::load(reinterpret_cast<Address>(row[p][g])).store(operands.dst[g].row(position[p][g]));
-        });
-        if (testLastPivot<m>(operands.dst[g], to, n, k + g) != tenkOk)
-            return tenkSingularError;
     }
-    return tenkOk;
-}
+
+    // Object by object: the last test of an object sees what stands before the next one is written.
+    template <typename F>
+    TENK_INLINE static tenkStatus eachObject(F storeAndTest)
+    {
+        return [&]<std::size_t... g>(std::index_sequence<g...>) TENK_LAMBDA
+        {
+            return (storeAndTest(index<g>) && ...) ? tenkOk : tenkSingularError;
+        }
+        (std::make_index_sequence<group<T>>());
+    }
+
+    template <typename S>
+    TENK_INLINE tenkStatus storeByIndex(const Objects& objects, const S& results, std::size_t k) const
+    {
+        const RowsOfObjects<T, n, n> rows(objects.a[0]);
+        typename BitsOf<T>::type position[n][group<T>];
+        each<n>([&](auto p) TENK_LAMBDA { store(reinterpret_cast<Address>(position[p]), objects.index[p]); });
+        return eachObject([&](auto g) TENK_LAMBDA {
+            const RowIndex indexOfObject(rowIndex, k + g, n);
+            each<n>([&](auto p) TENK_LAMBDA {
+                const auto row = static_cast<std::uint32_t>(position[p][g]);
+                indexOfObject.set(p, row);
+                rows.get(p, g).store(results.object[g].row(row));
+            });
+            return testLastPivot<m>(results.object[g], indexOfObject, n, k + g) == tenkOk;
+        });
+    }
+
+    template <typename S>
+    TENK_INLINE tenkStatus storeInOrder(const Objects& objects, const S& results, std::size_t k) const
+    {
+        const RowsOfObjects<T, 1, n * n> matrices(objects.a[0]);
+        return eachObject([&](auto g) TENK_LAMBDA {
+            const RowIndex indexOfObject(rowIndex, k + g, n);
+            each<n>([&](auto p) TENK_LAMBDA { indexOfObject.set(p, static_cast<std::uint32_t>(p)); });
+            matrices.get(index<0>, g).store(results.object[g].start);
+            return testLastPivot<m>(results.object[g], indexOfObject, n, k + g) == tenkOk;
+        });
+    }
+};
 
 template <Member m>
 TENK_INLINE tenkStatus luDecomp(Source<m> src, std::uint32_t* rowIndex, Destination<m> dst, Size<m> order,
@@ -316,12 +339,11 @@ TENK_INLINE tenkStatus luDecomp(Source<m> src, std::uint32_t* rowIndex, Destinat
     const bool local = decomposesLocally(m) && rowsApart<T>(dst.stride1, order);
     for (std::size_t k = 0; k < count; ++k) {
         if constexpr (decomposesLocally(m) && m.batch()) {
-            SourcesAndDestinations<m> operands;
-            Elimination<m, Vector<T>> objects;
-            while (local && count - k >= group<T> && operands.fit(src, dst, k) &&
-                   eliminateSideBySide<m>(objects, operands)) {
-                if (storeObjects<m>(objects, operands, rowIndex, k) != tenkOk)
-                    return tenkSingularError;
+            const LUGroups<m> groups{{src, dst}, rowIndex};
+            tenkStatus status = tenkOk;
+            while (local && groups.matrices.fit() && count - k >= group<T> && groups.decompose(k, status)) {
+                if (status != tenkOk)
+                    return status;
                 k += group<T>;
             }
             if (k == count)

@@ -5,7 +5,7 @@
 // and the backward difference is divided by the pivot. The entries of rowIndex are used as they stand.
 #pragma once
 
-#include "frame/side_by_side.h"
+#include "frame/groups.h"
 
 namespace tenk {
 
@@ -36,10 +36,34 @@ TENK_INLINE std::uint32_t rowAt(Address rowIndex, std::size_t p)
 template <unsigned order, unsigned entries>
 TENK_INLINE bool rowsInRange(Address rowIndex)
 {
-    bool inRange = true;
-    for (std::size_t e = 0; e < entries; ++e)
-        inRange &= rowAt(rowIndex, e) < order;
+    constexpr unsigned four = entries / 4;
+    Mask<float> outside{}; // by its sign
+    each<four>([&](auto v) TENK_LAMBDA {
+        const auto rows = load<Mask<float>>(rowIndex + v * 16);
+        outside |= rows | (rows > Mask<float>{} + static_cast<int>(order - 1));
+    });
+    bool inRange = !any(outside);
+    each<entries % 4>([&](auto e) TENK_LAMBDA { inRange &= rowAt(rowIndex, four * 4 + e) < order; });
     return inRange;
+}
+
+// Whether no row was exchanged.
+template <unsigned order, unsigned entries>
+TENK_INLINE bool rowsInOrder(Address rowIndex)
+{
+    constexpr unsigned four = entries / 4;
+    Mask<float> exchanged{};
+    each<four>([&](auto v) TENK_LAMBDA {
+        constexpr int e = static_cast<int>(v) * 4, n = order;
+        exchanged |=
+            load<Mask<float>>(rowIndex + v * 16) ^ Mask<float>{e % n, (e + 1) % n, (e + 2) % n, (e + 3) % n};
+    });
+    bool inOrder = all(exchanged == Mask<float>{});
+    each<entries % 4>([&](auto e) TENK_LAMBDA {
+        constexpr std::size_t entry = four * 4 + e;
+        inOrder &= rowAt(rowIndex, entry) == entry % order;
+    });
+    return inOrder;
 }
 
 // One object, in place in dst.
@@ -73,7 +97,7 @@ TENK_INLINE void luSolve(const Factor& factor, Address rowIndex, const B& b, con
 
 consteval bool luSolvesSideBySide(Member m)
 {
-    return m.batch() && !m.general() && isDense(m.layout) && !stepsByFourBytes(m);
+    return m.batch() && !m.general() && isDense(m.layout);
 }
 
 template <typename T, unsigned n>
@@ -94,62 +118,100 @@ TENK_INLINE void luSolve(const Vector<T> (&factor)[n][n], Vector<T> (&x)[n])
     });
 }
 
+// The batch a group at a time.
 template <Member m>
-struct LUSolveGroup
+struct LUSolveGroups
 {
     using T = Element<m>;
     static constexpr unsigned n = m.size;
     static constexpr bool oneFactor = !m.operand[0].array;
 
-    SystemsAndSolutions<m, false> operands;
-    Vector<T> factor[n][n]; // in the order of the positions
-    Address rowIndex[group<T>];
+    const Source<m, 0>& src1;
+    const Source<m, 1>& src2;
+    const Destination<m>& dst;
+    Address rowIndex;
+    Span<Source<m, 0>, n, n> matrices{src1, false};
+    Span<Source<m, 1>, 1, n> rightSides{src2, false};
+    Span<Destination<m>, 1, n> results{dst, true};
+    Vector<T> factor[n][n];  // in the order of the positions
+    std::size_t position[n]; // those of one factor
+    bool apart = false;      // throughout the batch
+    bool loaded = false;     // which is done once
 
-    // False if the objects have to be solved one after the other. One factor is read for the first group
-    // alone.
-    TENK_INLINE bool load(const Source<m, 0>& src1, Address index, const Source<m, 1>& src2,
-                          const Destination<m>& dst, std::size_t k)
+    TENK_INLINE LUSolveGroups(const Source<m, 0>& src1, Address rowIndex, const Source<m, 1>& src2,
+                              const Destination<m>& dst, std::size_t count)
+        : src1(src1), src2(src2), dst(dst), rowIndex(rowIndex)
     {
-        if (!operands.fit(src1, src2, dst, k))
+        apart = count > 0 && apartThroughout(src1, matrices, dst, results, count) &&
+                apartThroughout(src2, rightSides, dst, results, count);
+    }
+
+    TENK_INLINE bool fit() const { return matrices.fits && rightSides.fits && results.fits; }
+
+    // False if it has rows of its own.
+    TENK_INLINE bool loadOneFactor()
+    {
+        if (!rowsInRange<n, n>(rowIndex))
             return false;
-        if constexpr (oneFactor) {
-            if (k > 0)
-                return true;
-            each<group<T>>([&](auto g) TENK_LAMBDA { rowIndex[g] = index; });
-            if (!rowsInRange<n, n>(index))
-                return false;
-            each<n>([&](auto i) TENK_LAMBDA {
-                const Address row = operands.factor[0].row(rowAt(index, i));
-                each<n>([&](auto j)
-                            TENK_LAMBDA { factor[i][j] = broadcast(tenk::load<T>(row + j * sizeof(T))); });
-            });
-        } else {
-            constexpr std::size_t entries = n * sizeof(std::uint32_t);
-            each<group<T>>([&](auto g) TENK_LAMBDA { rowIndex[g] = index + (k + g) * entries; });
-            if (!rowsInRange<n, n * group<T>>(rowIndex[0]))
-                return false;
-            each<n>([&](auto i) TENK_LAMBDA {
-                const auto row = [&](std::size_t g)
-                                     TENK_LAMBDA { return operands.factor[g].row(rowAt(rowIndex[g], i)); };
-                loadSideBySide<n>(Addresses<T>::make(row), factor[i]);
-            });
-        }
+        const auto view = luFactor<m>(src1, 0, n);
+        each<n>([&](auto i) TENK_LAMBDA {
+            position[i] = rowAt(rowIndex, i);
+            each<n>([&](auto j) TENK_LAMBDA { factor[i][j] = broadcast(load<T>(view.at(position[i], j))); });
+        });
         return true;
     }
 
-    TENK_INLINE void solve() const
+    // The group that begins with object k. False, with nothing written, if something could tell.
+    TENK_INLINE bool solve(std::size_t k)
     {
+        if (!noNullObject<group<T>>(k, src1, src2, dst))
+            return false;
+        const Side<Source<m, 0>, n, n> a(src1, matrices, k);
+        const Side<Source<m, 1>, 1, n> b(src2, rightSides, k);
+        const Side<Destination<m>, 1, n> to(dst, results, k);
+        if (!to.eachApart() || (!apart && (!mayReadFirst(a, to, false) || !mayReadFirst(b, to, false))))
+            return false;
         Vector<T> x[n];
-        each<n>([&](auto i) TENK_LAMBDA {
-            const auto entry = [&](std::size_t g)
-                                   TENK_LAMBDA { return operands.b[g].at(0, rowAt(rowIndex[g], i)); };
-            x[i] = gather(Addresses<T>::make(entry));
-        });
+        if constexpr (oneFactor) {
+            if (!loaded && !loadOneFactor())
+                return false;
+            loaded = true;
+            Vector<T> rightSide[n];
+            loadSideBySide<n>(b.rowOfEach(0), rightSide);
+            each<n>([&](auto i) TENK_LAMBDA { x[i] = rightSide[position[i]]; });
+        } else {
+            const Address first = rowIndex + k * n * sizeof(std::uint32_t);
+            if (rowsInOrder<n, n * group<T>>(first)) {
+                loadMatrices(a, factor);
+                loadSideBySide<n>(b.rowOfEach(0), x);
+            } else if (rowsInRange<n, n * group<T>>(first)) {
+                each<n>([&](auto i) TENK_LAMBDA {
+                    const auto row = [&](std::size_t g) TENK_LAMBDA { return rowAt(first, g * n + i); };
+                    const auto ofFactor = [&](std::size_t g) TENK_LAMBDA { return a.object[g].row(row(g)); };
+                    const auto ofRightSide = [&](std::size_t g)
+                                                 TENK_LAMBDA { return b.object[g].at(0, row(g)); };
+                    loadSideBySide<n>(Addresses<T>::make(ofFactor), factor[i]);
+                    x[i] = gather(Addresses<T>::make(ofRightSide));
+                });
+            } else {
+                return false;
+            }
+        }
         luSolve<T, n>(factor, x);
-        storeSideBySide<n>(Addresses<T>::make([&](std::size_t g) TENK_LAMBDA { return operands.x[g].start; }),
-                           x);
+        storeSideBySide<n>(to.rowOfEach(0), x);
+        return true;
     }
 };
+
+template <Member m>
+TENK_INLINE auto luSolveGroups(const Source<m, 0>& src1, Address rowIndex, const Source<m, 1>& src2,
+                               const Destination<m>& dst, std::size_t count)
+{
+    if constexpr (luSolvesSideBySide(m))
+        return LUSolveGroups<m>(src1, rowIndex, src2, dst, count);
+    else
+        return Nothing{};
+}
 
 template <Member m>
 TENK_INLINE tenkStatus luBackSubst(Source<m, 0> src1, const std::uint32_t* rowIndex, Source<m, 1> src2,
@@ -165,13 +227,14 @@ TENK_INLINE tenkStatus luBackSubst(Source<m, 0> src1, const std::uint32_t* rowIn
         return tenkNullPointerError;
 
     const auto index = reinterpret_cast<Address>(rowIndex);
-    std::size_t k = 0;
-    if constexpr (luSolvesSideBySide(m)) {
-        LUSolveGroup<m> objects;
-        for (; count - k >= group<T> && objects.load(src1, index, src2, dst, k); k += group<T>)
-            objects.solve();
-    }
-    for (; k < count; ++k) {
+    [[maybe_unused]] auto groups = luSolveGroups<m>(src1, index, src2, dst, count);
+    for (std::size_t k = 0; k < count; ++k) {
+        if constexpr (luSolvesSideBySide(m)) {
+            while (groups.fit() && count - k >= group<T> && groups.solve(k))
+                k += group<T>;
+            if (k == count)
+                break;
+        }
         if (anyNullObject(k, src1, src2, dst))
             return tenkNullPointerError;
         const Address indexOfObject = m.operand[0].array ? index + k * order * sizeof(std::uint32_t) : index;

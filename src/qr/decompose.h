@@ -9,7 +9,7 @@
 // every scalar of a step in the wide unit; only elements of dst and buffer are binary64.
 #pragma once
 
-#include "frame/side_by_side.h"
+#include "frame/groups.h"
 
 namespace tenk {
 
@@ -27,6 +27,31 @@ struct WideOf<double>
 template <typename V>
 using Wide = typename WideOf<V>::type;
 
+// An element as such a scalar, and a sum of them. Of the wide unit's eight registers, which take long to be
+// moved to memory and back, the compiler runs out if it keeps elements for later or puts sums off: these are
+// read, and computed, here.
+template <typename V>
+TENK_INLINE V widened(const V& x)
+{
+    return x;
+}
+TENK_INLINE long double widened(const double& x)
+{
+    long double wide;
+    asm volatile("fldl %1" : "=t"(wide) : "m"(x));
+    return wide;
+}
+template <typename W>
+TENK_INLINE W computed(W x)
+{
+    return x;
+}
+TENK_INLINE long double computed(long double x)
+{
+    asm volatile("" : "+t"(x));
+    return x;
+}
+
 // The limit of a column's sum of squares, from the diagonal down: the same in both types. A NaN is below it.
 inline constexpr float columnFloor = 0x1p-23F;
 
@@ -40,7 +65,7 @@ TENK_INLINE bool isColumn(long double sumOfSquares)
 }
 TENK_INLINE bool isColumn(Vector<float> sumOfSquares)
 {
-    return !any(~(magnitude(sumOfSquares) >= broadcast(columnFloor)));
+    return all(magnitude(sumOfSquares) >= broadcast(columnFloor));
 }
 
 // A root or a quotient of binary32 numbers, rounded to more than twice their bits and then to theirs, is the
@@ -57,7 +82,6 @@ TENK_INLINE Vector<float> squareRoot(Vector<float> x)
 {
     return _mm_sqrt_ps(x);
 }
-
 // The norm with the sign of the diagonal element; zeros of both signs take minus.
 template <typename W, typename V>
 TENK_INLINE W withSignOf(V diagonal, W norm)
@@ -69,7 +93,6 @@ TENK_INLINE Vector<float> withSignOf(Vector<float> diagonal, Vector<float> norm)
     const Mask<float> sign = Mask<float>{} + static_cast<int>(0x80000000);
     return fromBits<float>(bits<float>(norm) ^ (sign & ~(diagonal > broadcast(0.0F))));
 }
-
 // 1 / (a + g).
 TENK_INLINE float reciprocalOfSum(float a, float g)
 {
@@ -84,7 +107,6 @@ TENK_INLINE Vector<float> reciprocalOfSum(Vector<float> a, Vector<float> g)
     return Vector<float>{reciprocalOfSum(a[0], g[0]), reciprocalOfSum(a[1], g[1]),
                          reciprocalOfSum(a[2], g[2]), reciprocalOfSum(a[3], g[3])};
 }
-
 // One object, in place in dst.
 template <Member m, typename From, typename To>
 TENK_INLINE tenkStatus decompose(const From& src, const To& d, Address buffer, Size<m> width, Size<m> height)
@@ -147,54 +169,90 @@ TENK_INLINE tenkStatus decompose(const From& src, const To& d, Address buffer, S
 // Fixed sizes whose rows are adjacent: one object, or a group of them side by side, in local memory
 // ---------------------------------------------------------------------------------------------------------------
 
-// V is an element, or a vector with an element of each object.
-template <typename V, unsigned n>
+// V is an element, or a vector with an element of each object. Up to the coefficient of a reflector every
+// operation waits for the one before, so two of them take turns if there are as many objects.
+template <typename V, unsigned n, unsigned turns = 1>
 struct Reflectors
 {
     using W = Wide<V>;
-    V a[n][n];
-    V v[n]; // the buffer
+    V a[turns][n][n];
+    V v[turns][n]; // the buffer
 
-    // False if a column is none.
+    // False as soon as a column is none.
+    TENK_INLINE bool reflect()
+    {
+        return [&]<std::size_t... k>(std::index_sequence<k...>) TENK_LAMBDA
+        {
+            return (reflect(index<k>) && ...);
+        }
+        (std::make_index_sequence<n - 1>());
+    }
+
     template <std::size_t k>
     TENK_INLINE bool reflect(Index<k>)
     {
-        W sumOfSquares = number<W>(0);
-        each<n - k>([&](auto i) TENK_LAMBDA {
-            const W x = a[k + i][k];
-            sumOfSquares = sumOfSquares + x * x;
-        });
-        if (!isColumn(sumOfSquares))
+        W coefficient[turns];
+        if (!makeReflector(index<k>, coefficient))
             return false;
-        const W scale = reciprocalOfSum(a[k][k], withSignOf(a[k][k], squareRoot(sumOfSquares)));
+        each<turns>([&](auto t) TENK_LAMBDA { apply(index<k>, a[t], v[t], coefficient[t]); });
+        return true;
+    }
 
-        v[k] = number<V>(1);
-        W lengthSquared = number<W>(1);
+    template <std::size_t k>
+    TENK_INLINE bool makeReflector(Index<k>, W (&coefficient)[turns])
+    {
+        W sumOfSquares[turns];
+        each<turns>([&](auto t) TENK_LAMBDA { sumOfSquares[t] = number<W>(0); });
+        each<n - k>([&](auto i) TENK_LAMBDA {
+            each<turns>([&](auto t) TENK_LAMBDA {
+                const W x = widened(a[t][k + i][k]);
+                sumOfSquares[t] = computed(sumOfSquares[t] + x * x);
+            });
+        });
+        bool all = true;
+        each<turns>([&](auto t) TENK_LAMBDA { all = all && isColumn(sumOfSquares[t]); });
+        if (!all)
+            return false;
+        W scale[turns];
+        each<turns>([&](auto t) TENK_LAMBDA {
+            const V diagonal = a[t][k][k];
+            scale[t] = reciprocalOfSum(diagonal, withSignOf(diagonal, squareRoot(sumOfSquares[t])));
+            v[t][k] = number<V>(1);
+        });
+        W lengthSquared[turns];
+        each<turns>([&](auto t) TENK_LAMBDA { lengthSquared[t] = number<W>(1); });
         each<n - 1 - k>([&](auto below) TENK_LAMBDA {
             constexpr std::size_t i = k + 1 + below;
-            const W x = a[i][k] * scale;
-            v[i] = static_cast<V>(x);
-            lengthSquared = lengthSquared + x * x;
+            each<turns>([&](auto t) TENK_LAMBDA {
+                const W x = widened(a[t][i][k]) * scale[t];
+                v[t][i] = static_cast<V>(x);
+                lengthSquared[t] = computed(lengthSquared[t] + x * x);
+            });
         });
-        const W coefficient = number<W>(-2) / lengthSquared;
+        each<turns>([&](auto t) TENK_LAMBDA { coefficient[t] = number<W>(-2) / lengthSquared[t]; });
+        return true;
+    }
+
+    template <std::size_t k>
+    TENK_INLINE static void apply(Index<k>, V (&a)[n][n], const V (&v)[n], const W& coefficient)
+    {
         each<n - k>([&](auto right) TENK_LAMBDA {
             constexpr std::size_t j = k + right;
-            W e = a[k][j];
+            W e = widened(a[k][j]);
             each<n - 1 - k>([&](auto below) TENK_LAMBDA {
                 constexpr std::size_t i = k + 1 + below;
-                e = e + static_cast<W>(a[i][j]) * static_cast<W>(v[i]);
+                e = computed(e + widened(a[i][j]) * widened(v[i]));
             });
             e = e * coefficient;
-            a[k][j] = static_cast<V>(static_cast<W>(a[k][j]) + e);
+            a[k][j] = static_cast<V>(widened(a[k][j]) + e);
             each<n - 1 - k>([&](auto below) TENK_LAMBDA {
                 constexpr std::size_t i = k + 1 + below;
                 if constexpr (j == k)
                     a[i][j] = v[i]; // in the place of the near-zeros that the reflector leaves
                 else
-                    a[i][j] = static_cast<V>(static_cast<W>(a[i][j]) + static_cast<W>(v[i]) * e);
+                    a[i][j] = static_cast<V>(widened(a[i][j]) + widened(v[i]) * e);
             });
         });
-        return true;
     }
 };
 
@@ -203,10 +261,17 @@ consteval bool reflectsLocally(Member m)
     return !m.general() && isDense(m.layout);
 }
 
-// Only binary32 has its arithmetic in vectors.
-consteval bool reflectsSideBySide(Member m)
+template <typename T, unsigned n>
+TENK_INLINE void loadMatrix(const DenseView<T>& from, T (&a)[n][n])
 {
-    return reflectsLocally(m) && m.batch() && m.type == Type::f32;
+    each<n>([&](auto i)
+                TENK_LAMBDA { each<n>([&](auto j) TENK_LAMBDA { a[i][j] = load<T>(from.at(i, j)); }); });
+}
+template <typename T, unsigned n>
+TENK_INLINE void storeMatrix(const DenseView<T>& to, const T (&a)[n][n])
+{
+    each<n>([&](auto i)
+                TENK_LAMBDA { each<n>([&](auto j) TENK_LAMBDA { store<T>(to.at(i, j), a[i][j]); }); });
 }
 
 // One object. What it left is stored after a failure as well.
@@ -217,52 +282,70 @@ TENK_INLINE tenkStatus decomposeLocally(const DenseView<Element<m>>& src, const 
     using T = Element<m>;
     constexpr unsigned n = m.size;
     Reflectors<T, n> object;
-    each<n>([&](auto i) TENK_LAMBDA {
-        each<n>([&](auto j) TENK_LAMBDA { object.a[i][j] = load<T>(src.at(i, j)); });
-    });
+    loadMatrix(src, object.a[0]);
     const bool done = [&]<std::size_t... k>(std::index_sequence<k...>) TENK_LAMBDA
     {
         const auto reflect = [&](auto step) TENK_LAMBDA {
             if (!object.reflect(step))
                 return false;
-            each<n - step>(
-                [&](auto i) TENK_LAMBDA { store<T>(buffer + (step + i) * sizeof(T), object.v[step + i]); });
+            each<n - step>([&](auto i) TENK_LAMBDA {
+                store<T>(buffer + (step + i) * sizeof(T), object.v[0][step + i]);
+            });
             return true;
         };
         return (reflect(index<k>) && ...);
     }
     (std::make_index_sequence<n - 1>());
-    each<n>([&](auto i) TENK_LAMBDA {
-        each<n>([&](auto j) TENK_LAMBDA { store<T>(dst.at(i, j), object.a[i][j]); });
-    });
+    storeMatrix(dst, object.a[0]);
     return done ? tenkOk : tenkSingularError;
 }
 
-// A group of objects; false, and nothing written, if one of them has no factors.
-template <Member m>
-TENK_INLINE bool decomposeSideBySide(const SourcesAndDestinations<m>& operands, Address buffer)
+// The batch a group of so many objects at a time: side by side in vectors, which only binary32 has the
+// arithmetic for, and in turns.
+template <Member m, unsigned objects>
+struct QRGroups
 {
     using T = Element<m>;
-    constexpr unsigned n = m.size;
-    Reflectors<Vector<T>, n> objects;
-    each<n>([&](auto i) TENK_LAMBDA {
-        const auto row = [&](std::size_t g) TENK_LAMBDA { return operands.src[g].row(i); };
-        loadSideBySide<n>(Addresses<T>::make(row), objects.a[i]);
-    });
-    const bool done = [&]<std::size_t... k>(std::index_sequence<k...>) TENK_LAMBDA
+    static constexpr unsigned n = m.size;
+    static constexpr bool inVectors = m.type == Type::f32;
+    static constexpr unsigned width = inVectors ? group<T> : 1, turns = objects / width;
+    using V = std::conditional_t<inVectors, Vector<T>, T>;
+
+    const Matrices<m, objects> matrices;
+    Address buffer;
+
+    // The group that begins with object k. False, with nothing written, if something could tell, or if an
+    // object has no factors.
+    TENK_INLINE bool decompose(std::size_t k) const
     {
-        return (objects.reflect(index<k>) && ...);
+        return matrices.group(k, [&](const auto& sources, const auto& results) TENK_LAMBDA {
+            Reflectors<V, n, turns> group;
+            each<turns>([&](auto t) TENK_LAMBDA {
+                if constexpr (inVectors)
+                    loadMatrices(sources, group.a[t], t * width);
+                else
+                    loadMatrix(sources.object[t], group.a[t]);
+            });
+            if (!group.reflect())
+                return false;
+            each<turns>([&](auto t) TENK_LAMBDA {
+                if constexpr (inVectors)
+                    storeMatrices(results, group.a[t], t * width);
+                else
+                    storeMatrix(results.object[t], group.a[t]);
+            });
+            each<n>([&](auto i) TENK_LAMBDA {
+                T last;
+                if constexpr (inVectors)
+                    last = group.v[turns - 1][i][width - 1];
+                else
+                    last = group.v[turns - 1][i];
+                store<T>(buffer + i * sizeof(T), last);
+            });
+            return true;
+        });
     }
-    (std::make_index_sequence<n - 1>());
-    if (!done)
-        return false;
-    each<n>([&](auto i) TENK_LAMBDA {
-        const auto row = [&](std::size_t g) TENK_LAMBDA { return operands.dst[g].row(i); };
-        storeSideBySide<n>(Addresses<T>::make(row), objects.a[i]);
-        store<T>(buffer + i * sizeof(T), objects.v[i][group<T> - 1]);
-    });
-    return true;
-}
+};
 
 template <Member m>
 TENK_INLINE tenkStatus qrDecomp(Source<m> src, Element<m>* buffer, Destination<m> dst, Size<m> width,
@@ -280,11 +363,14 @@ TENK_INLINE tenkStatus qrDecomp(Source<m> src, Element<m>* buffer, Destination<m
     const auto scratch = reinterpret_cast<Address>(buffer);
     const bool local = reflectsLocally(m) && rowsApart<T>(dst.stride1, width);
     for (std::size_t k = 0; k < count; ++k) {
-        if constexpr (reflectsSideBySide(m)) {
-            SourcesAndDestinations<m> operands;
-            while (local && count - k >= group<T> && operands.fit(src, dst, k) &&
-                   decomposeSideBySide<m>(operands, scratch))
-                k += group<T>;
+        if constexpr (reflectsLocally(m) && m.batch()) {
+            const auto all = [&](const auto& groups, std::size_t objects) TENK_LAMBDA {
+                while (local && groups.matrices.fit() && count - k >= objects && groups.decompose(k))
+                    k += objects;
+            };
+            if constexpr (m.type == Type::f32)
+                all(QRGroups<m, 2 * group<T>>{{src, dst}, scratch}, 2 * group<T>);
+            all(QRGroups<m, group<T>>{{src, dst}, scratch}, group<T>);
             if (k == count)
                 break;
         }

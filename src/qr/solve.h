@@ -6,7 +6,7 @@
 // of the element type, every sum in ascending order, each product rounded before it is added.
 #pragma once
 
-#include "frame/side_by_side.h"
+#include "frame/groups.h"
 
 namespace tenk {
 
@@ -99,39 +99,49 @@ TENK_INLINE void qrSolve(const V& v, const R& r, Address buffer, const B& b, con
 
 consteval bool qrSolvesSideBySide(Member m)
 {
-    return m.batch() && !m.general() && isDense(m.layout) && !stepsByFourBytes(m) && !stepsByOneByte(m);
+    return m.batch() && !m.general() && isDense(m.layout) && !stepsByOneByte(m);
 }
 
+// The batch a group at a time.
 template <Member m>
-struct QRSolveGroup
+struct QRSolveGroups
 {
     using T = Element<m>;
     static constexpr unsigned n = m.size;
     static constexpr bool oneFactor = !m.operand[0].array;
 
-    SystemsAndSolutions<m, true> operands;
+    const Source<m, 0>& src1;
+    const Source<m, 1>& src2;
+    const Destination<m>& dst;
+    Address buffer;
+    Span<Source<m, 0>, n, n> matrices{src1, false};
+    Span<Source<m, 1>, 1, n> rightSides{src2, false};
+    Span<Destination<m>, 1, n> results{dst, true};
     Vector<T> factor[n][n];
     Vector<T> coefficient[n - 1];
+    bool apart = false;  // throughout the batch
+    bool loaded = false; // one factor, which is loaded once
 
-    // False if the objects have to be solved one after the other. One factor is read for the first group
-    // alone.
-    TENK_INLINE bool load(const Source<m, 0>& src1, const Source<m, 1>& src2, const Destination<m>& dst,
-                          std::size_t k)
+    TENK_INLINE QRSolveGroups(const Source<m, 0>& src1, Address buffer, const Source<m, 1>& src2,
+                              const Destination<m>& dst, std::size_t count)
+        : src1(src1), src2(src2), dst(dst), buffer(buffer)
     {
-        if (!operands.fit(src1, src2, dst, k))
-            return false;
-        if (oneFactor && k > 0)
-            return true;
-        each<n>([&](auto i) TENK_LAMBDA {
-            if constexpr (oneFactor) {
-                const Address row = operands.factor[0].row(i);
-                each<n>([&](auto j)
-                            TENK_LAMBDA { factor[i][j] = broadcast(tenk::load<T>(row + j * sizeof(T))); });
-            } else {
-                const auto row = [&](std::size_t g) TENK_LAMBDA { return operands.factor[g].row(i); };
-                loadSideBySide<n>(Addresses<T>::make(row), factor[i]);
-            }
-        });
+        apart = count > 0 && apartThroughout(src1, matrices, dst, results, count) &&
+                apartThroughout(src2, rightSides, dst, results, count);
+    }
+
+    TENK_INLINE bool fit() const { return matrices.fits && rightSides.fits && results.fits; }
+
+    TENK_INLINE void loadFactor(const Side<Source<m, 0>, n, n>& a)
+    {
+        if constexpr (oneFactor) {
+            const auto view = reflectorsOf<m>(src1, 0, n);
+            each<n>([&](auto i) TENK_LAMBDA {
+                each<n>([&](auto j) TENK_LAMBDA { factor[i][j] = broadcast(load<T>(view.at(i, j))); });
+            });
+        } else {
+            loadMatrices(a, factor);
+        }
         each<n - 1>([&](auto k) TENK_LAMBDA {
             Vector<T> lengthSquared = broadcast<T>(1);
             each<n - 1 - k>([&](auto below) TENK_LAMBDA {
@@ -140,14 +150,11 @@ struct QRSolveGroup
             });
             coefficient[k] = broadcast<T>(-2) / lengthSquared;
         });
-        return true;
     }
 
-    TENK_INLINE void solve(Address buffer) const
+    // y is the right-hand side, and then the solution.
+    TENK_INLINE void solve(Vector<T> (&y)[n]) const
     {
-        Vector<T> y[n];
-        loadSideBySide<n>(Addresses<T>::make([&](std::size_t g) TENK_LAMBDA { return operands.b[g].start; }),
-                          y);
         each<n - 1>([&](auto k) TENK_LAMBDA {
             Vector<T> e = y[k];
             each<n - 1 - k>([&](auto below) TENK_LAMBDA {
@@ -170,10 +177,38 @@ struct QRSolveGroup
             each<n - 1 - i>([&](auto j) TENK_LAMBDA { sum = sum + factor[i][i + 1 + j] * y[i + 1 + j]; });
             y[i] = (y[i] - sum) / factor[i][i];
         });
-        storeSideBySide<n>(Addresses<T>::make([&](std::size_t g) TENK_LAMBDA { return operands.x[g].start; }),
-                           y);
+    }
+
+    // The group that begins with object k. False, with nothing written, if something could tell.
+    TENK_INLINE bool solve(std::size_t k)
+    {
+        if (!noNullObject<group<T>>(k, src1, src2, dst))
+            return false;
+        const Side<Source<m, 0>, n, n> a(src1, matrices, k);
+        const Side<Source<m, 1>, 1, n> b(src2, rightSides, k);
+        const Side<Destination<m>, 1, n> x(dst, results, k);
+        if (!x.eachApart() || (!apart && (!mayReadFirst(a, x, false) || !mayReadFirst(b, x, true))))
+            return false;
+        if (!loaded)
+            loadFactor(a);
+        loaded = oneFactor;
+        Vector<T> y[n];
+        loadSideBySide<n>(b.rowOfEach(0), y);
+        solve(y);
+        storeSideBySide<n>(x.rowOfEach(0), y);
+        return true;
     }
 };
+
+template <Member m>
+TENK_INLINE auto qrSolveGroups(const Source<m, 0>& src1, Address buffer, const Source<m, 1>& src2,
+                               const Destination<m>& dst, std::size_t count)
+{
+    if constexpr (qrSolvesSideBySide(m))
+        return QRSolveGroups<m>(src1, buffer, src2, dst, count);
+    else
+        return Nothing{};
+}
 
 template <Member m>
 TENK_INLINE tenkStatus qrBackSubst(Source<m, 0> src1, Element<m>* buffer, Source<m, 1> src2,
@@ -189,13 +224,14 @@ TENK_INLINE tenkStatus qrBackSubst(Source<m, 0> src1, Element<m>* buffer, Source
         return tenkNullPointerError;
 
     const auto scratch = reinterpret_cast<Address>(buffer);
-    std::size_t k = 0;
-    if constexpr (qrSolvesSideBySide(m)) {
-        QRSolveGroup<m> objects;
-        for (; count - k >= group<T> && objects.load(src1, src2, dst, k); k += group<T>)
-            objects.solve(scratch);
-    }
-    for (; k < count; ++k) {
+    [[maybe_unused]] auto groups = qrSolveGroups<m>(src1, scratch, src2, dst, count);
+    for (std::size_t k = 0; k < count; ++k) {
+        if constexpr (qrSolvesSideBySide(m)) {
+            while (groups.fit() && count - k >= group<T> && groups.solve(k))
+                k += group<T>;
+            if (k == count)
+                break;
+        }
         if (anyNullObject(k, src1, src2, dst))
             return tenkNullPointerError;
         qrSolve<m>(reflectorsOf<m>(src1, k, width), triangleOf<m>(src1, k, width), scratch,

@@ -12,6 +12,9 @@
 #include <string>
 #include <vector>
 
+#include <sys/mman.h>
+#include <unistd.h>
+
 #include "support/call.h"
 #include "support/library.h"
 #include "tenk/types.h"
@@ -221,5 +224,32 @@ inline std::string text(const Shape& s)
 {
     return (s.fixed ? "fixed " : "general ") + std::to_string(s.width) + " x " + std::to_string(s.height);
 }
+
+// Memory that ends where nothing may be read any more.
+class PageEnd
+{
+public:
+    PageEnd() : page(static_cast<std::size_t>(sysconf(_SC_PAGESIZE)))
+    {
+        memory = static_cast<unsigned char*>(
+            mmap(nullptr, 2 * page, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
+        EXPECT_NE(memory, MAP_FAILED);
+        EXPECT_EQ(mprotect(memory + page, page, PROT_NONE), 0);
+    }
+    ~PageEnd() { munmap(memory, 2 * page); }
+    PageEnd(const PageEnd&) = delete;
+    PageEnd& operator=(const PageEnd&) = delete;
+
+    // The last n elements of type T.
+    template <typename T>
+    T* last(std::size_t n) const
+    {
+        return reinterpret_cast<T*>(memory + page - n * sizeof(T));
+    }
+
+private:
+    std::size_t page;
+    unsigned char* memory;
+};
 
 } // namespace factors

@@ -468,4 +468,55 @@ TYPED_TEST(LUBackSubst, ANullEntryOfAListFailsWhenItsObjectIsReached)
     });
 }
 
+TYPED_TEST(LUBackSubst, EntriesOfRowIndexAreUsedAsTheyStand)
+{
+    // Row 4 of a matrix of order 3 is two rows behind it, b[4] two elements behind the right-hand side.
+    using T = TypeParam;
+    const T factor[15] = {2, 0, 0, 0, 4, 0, 9, 9, 9, 9, 9, 9, 0, 0, 8}, b[5] = {2, 8, 9, 9, 32};
+    std::uint32_t rows[15];
+    for (std::size_t e = 0; e < 15; ++e)
+        rows[e] = e % 3 == 2 ? 4U : static_cast<std::uint32_t>(e % 3);
+    T x[15];
+    constexpr std::uint32_t row = 3 * sizeof(T);
+    for (bool oneFactor : {false, true}) {
+        if constexpr (sizeof(T) == 4)
+            (oneFactor ? tenkLUBackSubst_mva_32f_3x3 : tenkLUBackSubst_mava_32f_3x3)(factor, 0, row, rows, b,
+                                                                                     0, x, row, 5);
+        else
+            (oneFactor ? tenkLUBackSubst_mva_64f_3x3 : tenkLUBackSubst_mava_64f_3x3)(factor, 0, row, rows, b,
+                                                                                     0, x, row, 5);
+        for (std::size_t k = 0; k < 5; ++k)
+            EXPECT_TRUE(same({x[3 * k], x[3 * k + 1], x[3 * k + 2]}, std::vector<T>{1, 2, 4})) << oneFactor;
+    }
+}
+
+TYPED_TEST(LUBackSubst, ABatchWithoutGapsInOrderAndExchanged)
+{
+    // L = (1; 3 1; 1 2 1), U = (2 4 6; 5 10; 4), b = (2, 16, 20): y = (2, 10, -2), x = (-7/2, 3, -1/2).
+    // Object 5 has its rows exchanged.
+    using T = TypeParam;
+    const std::vector<T> inOrder = {2, 4, 6, 3, 5, 10, 1, 2, 4}, exchanged = {1, 2, 4, 2, 4, 6, 3, 5, 10};
+    std::vector<T> factors, b, x(27);
+    std::vector<std::uint32_t> rows;
+    for (std::size_t k = 0; k < 9; ++k) {
+        const bool other = k == 5;
+        factors.insert(factors.end(), (other ? exchanged : inOrder).begin(),
+                       (other ? exchanged : inOrder).end());
+        for (T value : other ? std::vector<T>{20, 2, 16} : std::vector<T>{2, 16, 20})
+            b.push_back(value);
+        for (std::uint32_t entry :
+             other ? std::vector<std::uint32_t>{1, 2, 0} : std::vector<std::uint32_t>{0, 1, 2})
+            rows.push_back(entry);
+    }
+    constexpr std::uint32_t row = 3 * sizeof(T);
+    if constexpr (sizeof(T) == 4)
+        tenkLUBackSubst_mava_32f_3x3(factors.data(), 3 * row, row, rows.data(), b.data(), row, x.data(), row,
+                                     9);
+    else
+        tenkLUBackSubst_mava_64f_3x3(factors.data(), 3 * row, row, rows.data(), b.data(), row, x.data(), row,
+                                     9);
+    for (std::size_t k = 0; k < 9; ++k)
+        EXPECT_TRUE(same({x[3 * k], x[3 * k + 1], x[3 * k + 2]}, std::vector<T>{T(-3.5), 3, T(-0.5)})) << k;
+}
+
 } // namespace

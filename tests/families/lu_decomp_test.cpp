@@ -281,10 +281,13 @@ TYPED_TEST(LUDecomp, ALongPackedBatchEqualsItsSingleMatrices)
     using T = TypeParam;
     std::mt19937 random(9);
     for (unsigned n = 3; n <= 6; ++n)
-        for (Form form : {Form::standard, Form::list}) {
+        for (auto [form, heavyDiagonal] : {std::pair(Form::standard, false), std::pair(Form::standard, true),
+                                           std::pair(Form::list, false), std::pair(Form::list, true)}) {
             const std::size_t count = 203, size = n * n;
             std::vector<T> src = randomElements<T>(random, count * size),
                            dst((count + count / n + 2) * size, T{1});
+            for (std::size_t d = 0; heavyDiagonal && d < count * size; d += d % size == size - 1 ? 1 : n + 1)
+                src[d] += 3; // no row is exchanged
             std::vector<const T*> srcs;
             std::vector<T*> dsts;
             for (std::size_t k = 0; k < count; ++k) {
@@ -736,6 +739,121 @@ TYPED_TEST(LUDecomp, ABatchMayBeWrittenOverTheSourcesOfLaterObjects)
     else
         tenkLUDecomp_ma_64f_4x4(memory.data(), 128, 32, r, memory.data() + 16, 128, 32, 8);
     EXPECT_TRUE(same(memory, expected));
+}
+
+TYPED_TEST(LUDecomp, TheLastTestOfAnObjectComesBeforeTheNextOneIsWritten)
+{
+    // Identities of order 4, without gaps. The last test of object k looks at element 20 k + 15 of dst, which
+    // is a zero of object k + 1 as soon as that one is written.
+    using T = TypeParam;
+    for (bool ok : {true, false}) {
+        std::vector<T> src(8 * 16), dst(12 * 16, ok ? T{5} : T{0});
+        for (std::size_t k = 0; k < 8; ++k)
+            for (std::size_t i = 0; i < 4; ++i)
+                src[16 * k + 5 * i] = 1;
+        std::uint32_t r[32];
+        tenkStatus status;
+        if constexpr (sizeof(T) == 4)
+            status = tenkLUDecomp_ma_32f_4x4(src.data(), 64, 16, r, dst.data(), 64, 16, 8);
+        else
+            status = tenkLUDecomp_ma_64f_4x4(src.data(), 128, 32, r, dst.data(), 128, 32, 8);
+        EXPECT_EQ(status, ok ? tenkOk : tenkSingularError);
+        // Object 1 finds the zero in the place of object 2.
+        const std::size_t written = ok ? 128 : 32;
+        std::vector<T> expected(12 * 16, ok ? T{5} : T{0});
+        std::copy(src.begin(), src.begin() + static_cast<long>(written), expected.begin());
+        EXPECT_TRUE(same(dst, expected));
+    }
+}
+
+TYPED_TEST(LUDecomp, NothingIsReadAheadOfAFailure)
+{
+    // The first matrix is zero, and behind it nothing may be read; neither behind the first entry of the
+    // lists.
+    using T = TypeParam;
+    const PageEnd memory, sources, results;
+    T* const src = memory.last<T>(16);
+    std::fill(src, src + 16, T{0});
+    T dst[8 * 16];
+    std::uint32_t r[32];
+    constexpr std::uint32_t row = 4 * sizeof(T), matrix = 16 * sizeof(T);
+    const T** const list = sources.last<const T*>(1);
+    T** const resultList = results.last<T*>(1);
+    *list = src;
+    *resultList = dst;
+    if constexpr (sizeof(T) == 4) {
+        EXPECT_EQ(tenkLUDecomp_ma_32f_4x4(src, matrix, row, r, dst, matrix, row, 8), tenkSingularError);
+        EXPECT_EQ(tenkLUDecomp_ma_32f_4x4_L(list, 0, row, r, resultList, 0, row, 8), tenkSingularError);
+    } else {
+        EXPECT_EQ(tenkLUDecomp_ma_64f_4x4(src, matrix, row, r, dst, matrix, row, 8), tenkSingularError);
+        EXPECT_EQ(tenkLUDecomp_ma_64f_4x4_L(list, 0, row, r, resultList, 0, row, 8), tenkSingularError);
+    }
+    for (std::uint32_t i = 0; i < 4; ++i)
+        EXPECT_EQ(r[i], i);
+}
+
+TYPED_TEST(LUDecomp, ListsMayNameTheResultsInAnyOrder)
+{
+    // Each result is the source of the object before, so reading ahead changes nothing; and once more with
+    // results that are sources of later objects, where it would.
+    using T = TypeParam;
+    std::mt19937 random(12);
+    for (bool later : {false, true}) {
+        std::vector<T> memory = randomElements<T>(random, 9 * 16 + 200);
+        std::fill(memory.end() - 200, memory.end(), T{1});
+        std::vector<T> expected = memory;
+        const T* src[8];
+        T* dst[8];
+        for (std::size_t k = 0; k < 8; ++k) {
+            const std::size_t from = later ? k : k + 1, to = later ? k + 1 : k;
+            src[k] = &memory[16 * from];
+            dst[k] = &memory[16 * to];
+            const auto f = factorsOf(std::vector<T>(expected.begin() + static_cast<long>(16 * from),
+                                                    expected.begin() + static_cast<long>(16 * (from + 1))),
+                                     4, sizeof(T) == 8, false);
+            std::copy(f.d.begin(), f.d.end(), expected.begin() + static_cast<long>(16 * to));
+        }
+        std::uint32_t r[32];
+        if constexpr (sizeof(T) == 4)
+            tenkLUDecomp_ma_32f_4x4_L(src, 0, 16, r, dst, 0, 16, 8);
+        else
+            tenkLUDecomp_ma_64f_4x4_L(src, 0, 32, r, dst, 0, 32, 8);
+        EXPECT_TRUE(same(memory, expected));
+    }
+}
+
+TYPED_TEST(LUDecomp, ResultsThatShareMemoryAreWrittenOneAfterTheOther)
+{
+    // A step of 0: what stays is the last object.
+    using T = TypeParam;
+    std::mt19937 random(13);
+    const std::vector<T> src = randomElements<T>(random, 8 * 16);
+    std::vector<T> dst(200, T{1});
+    std::uint32_t r[32];
+    if constexpr (sizeof(T) == 4)
+        tenkLUDecomp_ma_32f_4x4(src.data(), 64, 16, r, dst.data(), 0, 16, 8);
+    else
+        tenkLUDecomp_ma_64f_4x4(src.data(), 128, 32, r, dst.data(), 0, 32, 8);
+    const auto f = factorsOf(std::vector<T>(src.end() - 16, src.end()), 4, false, false);
+    EXPECT_TRUE(same(std::vector<T>(dst.begin(), dst.begin() + 16), f.d));
+}
+
+TYPED_TEST(LUDecomp, ForObject0ABatchAndASingleMatrixAgree)
+{
+    // Rows (1, 2, 4), (4, 4, 8), (2, 6, 1): position 0 takes row 1, with multipliers 1/4 and 1/2 exact in
+    // both forms and rows (1/4, 1, 2) and (1/2, 4, -3); position 1 takes row 2, with 1/4 and 2 + 3/4.
+    using T = TypeParam;
+    const std::vector<T> a = {1, 2, 4, 4, 4, 8, 2, 6, 1},
+                         expected = {T(0.25), T(0.25), T(2.75), 4, 4, 8, T(0.5), 4, -3};
+    eachCall<T>([&](auto& call, bool) {
+        if (call.n != 3)
+            return;
+        for (std::size_t k = 0; k < call.count; ++k)
+            call.src.setObject(k, a);
+        EXPECT_EQ(call.run(), tenkOk) << call.name;
+        EXPECT_TRUE(same(call.dst.object(0), expected)) << call.name;
+        EXPECT_EQ(call.rowsOf(0), (Rows{1, 2, 0})) << call.name;
+    });
 }
 
 } // namespace

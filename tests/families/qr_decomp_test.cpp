@@ -610,4 +610,81 @@ TYPED_TEST(QRDecomp, DenseRowsThatOverlapEachOtherAreWorkedOnInPlace)
     EXPECT_TRUE(same(std::vector<T>(d, d + 3), std::vector<T>(row, row + 3)));
 }
 
+TYPED_TEST(QRDecomp, ANaNInTheActivePartOfAColumnIsSingularAtThatStep)
+{
+    // Column 0 is (-2, 0, 0): R(0, 0) = 2, the reflector turns the sign of row 0 and leaves the others. The
+    // NaN stands in column 1.
+    const TypeParam nan = std::numeric_limits<TypeParam>::quiet_NaN();
+    eachCall<TypeParam>([&](auto& call) {
+        if (call.w != 3 || call.h != 3)
+            return;
+        for (std::size_t k = 0; k < call.count; ++k)
+            call.src.setObject(k, {-2, 1, 5, 0, 3, 6, 0, nan, 7});
+        EXPECT_EQ(call.run(), tenkSingularError) << call.name;
+        EXPECT_EQ(call.dst.get(0, 0, 0), TypeParam(2)) << call.name;
+        EXPECT_EQ(call.dst.get(0, 0, 2), TypeParam(-5)) << call.name;
+        EXPECT_EQ(call.dst.get(0, 1, 2), TypeParam(6)) << call.name;
+        EXPECT_TRUE(std::isnan(call.dst.get(0, 2, 1))) << call.name;
+    });
+    Call<TypeParam> call(false, {3, 3, 3}, Form::standard, 1);
+    call.src.setObject(0, {1, 2, 3, nan, 4, 5, 6, 7, 8});
+    EXPECT_EQ(call.run(), tenkSingularError);
+    EXPECT_TRUE(same(call.dst.object(0), {1, 2, 3, nan, 4, 5, 6, 7, 8}));
+}
+
+TYPED_TEST(QRDecomp, NothingIsReadAheadOfAFailure)
+{
+    // The first matrix is zero, and behind it nothing may be read; neither behind the first entry of the
+    // lists.
+    using T = TypeParam;
+    const PageEnd memory, sources, results;
+    T* const src = memory.last<T>(16);
+    std::fill(src, src + 16, T{0});
+    T dst[16 * 16], buffer[4];
+    constexpr std::uint32_t row = 4 * sizeof(T), matrix = 16 * sizeof(T);
+    const T** const list = sources.last<const T*>(1);
+    T** const resultList = results.last<T*>(1);
+    *list = src;
+    *resultList = dst;
+    if constexpr (sizeof(T) == 4) {
+        EXPECT_EQ(tenkQRDecomp_ma_32f_4x4(src, matrix, row, buffer, dst, matrix, row, 16), tenkSingularError);
+        EXPECT_EQ(tenkQRDecomp_ma_32f_4x4_L(list, 0, row, buffer, resultList, 0, row, 16), tenkSingularError);
+    } else {
+        EXPECT_EQ(tenkQRDecomp_ma_64f_4x4(src, matrix, row, buffer, dst, matrix, row, 16), tenkSingularError);
+        EXPECT_EQ(tenkQRDecomp_ma_64f_4x4_L(list, 0, row, buffer, resultList, 0, row, 16), tenkSingularError);
+    }
+}
+
+TYPED_TEST(QRDecomp, ABatchMayBeWrittenOverTheSourcesOfLaterObjects)
+{
+    // dst of object k is src of object k + 1, by a step and by lists.
+    using T = TypeParam;
+    std::mt19937 random(8);
+    const std::vector<T> before = randomElements<T>(random, 17 * 16);
+    std::vector<T> expected = before, buffer(4);
+    for (std::size_t k = 0; k < 16; ++k) {
+        const auto f = factorsOf(std::vector<T>(expected.begin() + static_cast<long>(16 * k),
+                                                expected.begin() + static_cast<long>(16 * (k + 1))),
+                                 4, 4, buffer);
+        std::copy(f.d.begin(), f.d.end(), expected.begin() + static_cast<long>(16 * (k + 1)));
+    }
+    constexpr std::uint32_t row = 4 * sizeof(T), matrix = 16 * sizeof(T);
+    for (bool list : {false, true}) {
+        std::vector<T> memory = before;
+        const T* src[16];
+        T* dst[16];
+        for (std::size_t k = 0; k < 16; ++k) {
+            src[k] = &memory[16 * k];
+            dst[k] = &memory[16 * (k + 1)];
+        }
+        if constexpr (sizeof(T) == 4)
+            list ? tenkQRDecomp_ma_32f_4x4_L(src, 0, row, buffer.data(), dst, 0, row, 16)
+                 : tenkQRDecomp_ma_32f_4x4(src[0], matrix, row, buffer.data(), dst[0], matrix, row, 16);
+        else
+            list ? tenkQRDecomp_ma_64f_4x4_L(src, 0, row, buffer.data(), dst, 0, row, 16)
+                 : tenkQRDecomp_ma_64f_4x4(src[0], matrix, row, buffer.data(), dst[0], matrix, row, 16);
+        EXPECT_TRUE(same(memory, expected)) << list;
+    }
+}
+
 } // namespace
