@@ -489,8 +489,8 @@ consteval Member::Member(const char (&name)[N])
         thisNameIsNotInTheGrammar();
 }
 
-// Tells some members from all others: inline constexpr auto standsApart = oneOf("tenkTrace_m_32f", ...). The names are
-// read once, not for every member that is asked about.
+// Tells some members from all others: inline constexpr auto standsApart = oneOf("tenkTrace_m_32f", ...). The
+// names are read once, not for every member that is asked about.
 template <std::size_t n>
 struct OneOf
 {

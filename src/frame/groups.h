@@ -20,6 +20,16 @@ TENK_INLINE bool apart(const Bytes& a, const Bytes& b)
     return b.first - a.first - a.length <= 0 - a.length - b.length;
 }
 
+// The bytes of an object of n adjacent elements in each of some rows.
+template <typename T>
+TENK_INLINE Bytes bytesOf(const DenseView<T>& view, std::size_t rows, std::size_t n)
+{
+    const Address rest = times(rows - 1, view.rowStep), row = n * sizeof(T);
+    if (view.rowStep < 0)
+        return {view.start + rest, row - rest};
+    return {view.start, row + rest};
+}
+
 // No row of an object lies in another one.
 template <typename T>
 TENK_INLINE bool rowsApart(Displacement rowStep, std::size_t n)

@@ -3,7 +3,7 @@
 #pragma once
 
 #include "elementwise/elementwise.h"
-#include "frame/side_by_side.h"
+#include "frame/groups.h"
 
 namespace tenk {
 
