@@ -168,12 +168,15 @@ struct GaplessView
     TENK_INLINE Address row(std::size_t i) const { return start + i * n * sizeof(T); }
 };
 
-// The start of an object, added up once: i386 has no registers for a sum that is formed anew at each access.
-TENK_INLINE Address inOneRegister(Address start)
+// On i386 a loop finds its shifts and counts in memory.
+inline constexpr bool hasFewRegisters = sizeof(Address) == 4;
+
+// A sum that is added up once. Without registers to spare the compiler would form it anew at each use.
+TENK_INLINE Address inOneRegister(Address sum)
 {
-    if constexpr (sizeof(Address) == 4)
-        asm("" : "+r"(start));
-    return start;
+    if constexpr (hasFewRegisters)
+        asm("" : "+r"(sum));
+    return sum;
 }
 
 // Rows from row `first` on of a source in registers, in the order of the formula unless `isTurned`.
@@ -393,6 +396,19 @@ TENK_INLINE tenkStatus packedObjects(F f, Destination<m> dst, std::size_t count,
     return packedLoop<m, rows, columns, noGaps>(f, dst, count, held<m, rows, columns, turnsResult>(src)...);
 }
 
+// Lists to whose entries nothing is added.
+template <typename... O>
+TENK_INLINE bool unshifted(const O&... operands)
+{
+    return inOneRegister((Address{0} | ... | static_cast<Address>(operands.shift))) == 0;
+}
+template <typename O>
+TENK_INLINE O withoutShift(O o)
+{
+    o.shift = 0;
+    return o;
+}
+
 // Objects without gaps between their rows are one long row each, unless they have to be turned; arrays of
 // them without gaps are one.
 template <Member m, typename F, typename... S>
@@ -430,10 +446,14 @@ TENK_INLINE tenkStatus gaplessObjects(F f, Destination<m> dst, std::size_t count
         }
     }
     constexpr bool turnsArray = ((S::transposed && !S::single) || ...);
-    if constexpr (turnsArray && m.size > 3)
-        return packedObjects<m, m.size, m.size, true>(f, dst, count, src...);
-    else
-        return packedObjects<m, 1, elements, true>(f, dst, count, src...);
+    constexpr unsigned rows = turnsArray && m.size > 3 ? m.size : 1;
+    const auto objects = [&](const auto& to, const auto&... from) TENK_LAMBDA {
+        return packedObjects<m, rows, elements / rows, true>(f, to, count, from...);
+    };
+    if constexpr (isList(m.layout) && hasFewRegisters)
+        if (unshifted(dst, src...))
+            return objects(withoutShift(dst), withoutShift(src)...);
+    return objects(dst, src...);
 }
 
 // ---------------------------------------------------------------------------------------------------------------
