@@ -22,10 +22,12 @@ consteval bool addsPairs(Member m)
     return m == "tenkDotProduct_vav_32f_4x1" || m == "tenkDotProduct_vav_32f_4x1_L";
 }
 
+inline constexpr bool manyRegisters = sizeof(Address) == 8;
+
 // How the objects of a batch are taken. Those of some members are read a step at a time, and their list
 // entries tested, before the first result of the step is written; in 64f that is so in Standard layout alone.
 // All others go object by object, as far as can be told; in lists it pays to find that out where sums are
-// long or one vector is the same for all, and not on i386.
+// long or one vector is the same for all, if there are registers enough.
 consteval BatchSteps stepsOf(Member m)
 {
     if (m == "tenkDotProduct_vav_32f_3x1" || m == "tenkDotProduct_vav_32f_3x1_L" ||
@@ -35,14 +37,12 @@ consteval BatchSteps stepsOf(Member m)
         return {2, true};
     if (!m.batch() || m.general())
         return {1, true};
-    if (m.layout == Layout::Standard)
-        return m.type == Type::f64 ? BatchSteps{2, false} : BatchSteps{m.size >= 4 ? 4U : 1U, false};
-    if (m.layout == Layout::List && sizeof(Address) == 8) {
-        if (m.type == Type::f32)
-            return {4, false};
-        if (!m.source(1).array)
-            return {2, false};
-    }
+    if (m.layout == Layout::Standard && m.type == Type::f32)
+        return {manyRegisters || m.size < 6 || !m.source(1).array ? 4U : 1U, false};
+    if (m.layout == Layout::List && m.type == Type::f32 && manyRegisters)
+        return {4, false};
+    if (m.layout == Layout::Standard || (m.layout == Layout::List && manyRegisters && !m.source(1).array))
+        return {2, false};
     return {1, true};
 }
 

@@ -132,7 +132,7 @@ TEST(DotProduct, OfSixElementsIn64fStartsFromTheBack)
 
 TEST(DotProduct, OfMinusZeroIsPlusZeroWhereTheSumStartsFromZero)
 {
-    const float minus[] = {-0.0F, -0.0F, -0.0F}, ones[] = {1, 1, 1};
+    const float minus[] = {-0.0F, -0.0F, -0.0F, -0.0F, -0.0F, -0.0F}, ones[] = {1, 1, 1, 1, 1, 1};
     const float* table[] = {minus, minus + 1, minus + 2};
     const float* onesTable[] = {ones, ones + 1, ones + 2};
     float s = 9;
@@ -142,8 +142,12 @@ TEST(DotProduct, OfMinusZeroIsPlusZeroWhereTheSumStartsFromZero)
     EXPECT_EQ(std::bit_cast<std::uint32_t>(s), 0U);
     EXPECT_EQ(tenkDotProduct_vv_32f_3x1_S2(minus, 4, ones, 4, &s), tenkOk);
     EXPECT_EQ(std::bit_cast<std::uint32_t>(s), 0U);
-    EXPECT_EQ(tenkDotProduct_vv_32f_3x1(minus, ones, &s), tenkOk);
-    EXPECT_EQ(std::bit_cast<std::uint32_t>(s), 0x80000000U);
+    for (const char* name : {"tenkDotProduct_vv_32f_3x1", "tenkDotProduct_vv_32f_4x1",
+                             "tenkDotProduct_vv_32f_5x1", "tenkDotProduct_vv_32f_6x1"}) {
+        s = 9;
+        EXPECT_EQ(callByName(name, {{pointer(minus), pointer(ones), pointer(&s)}}), tenkOk);
+        EXPECT_EQ(std::bit_cast<std::uint32_t>(s), 0x80000000U) << name;
+    }
 }
 
 // ---------------------------------------------------------------------------------------------------------------
@@ -393,6 +397,38 @@ TEST(DotProduct, OfOtherListsTestsOneEntryAtATime)
     }
 }
 
+TEST(DotProduct, OfListsWithAShiftTakesNoNullEntryForAnAddress)
+{
+    const Floats x(6, 1);
+    const float* const later = x.data() + 1;
+    const float* entries[] = {later, later, nullptr, later};
+    const float* others[] = {later, later, later, later};
+    const auto back = static_cast<std::uint32_t>(-4);
+    for (bool second : {false, true}) {
+        Floats s(4, -1);
+        const float* const* const first = second ? others : entries;
+        const float* const* const last = second ? entries : others;
+        EXPECT_EQ(
+            tenkDotProduct_vava_32f_5x1_L(first, second ? 0 : back, last, second ? back : 0, s.data(), 4),
+            tenkNullPointerError);
+        EXPECT_EQ(s, (Floats{5, 5, -1, -1}));
+    }
+}
+
+TEST(DotProduct, OfAListThatBeginsWithANullEntryReadsNothingOfTheOther)
+{
+    void* const unreadable = mmap(nullptr, 4096, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    ASSERT_NE(unreadable, MAP_FAILED);
+    const Floats x(5, 1);
+    const float* entries[] = {nullptr, x.data(), x.data(), x.data()};
+    Floats s(4, -1);
+    EXPECT_EQ(
+        tenkDotProduct_vava_32f_5x1_L(entries, 0, static_cast<const float**>(unreadable), 0, s.data(), 4),
+        tenkNullPointerError);
+    EXPECT_EQ(s, Floats(4, -1));
+    munmap(unreadable, 4096);
+}
+
 // The results of a step lie on objects of the same step, which have been read by then, and of none before it.
 TEST(DotProduct, OfSomeArraysReadsAWholeStepBeforeItWrites)
 {
@@ -461,10 +497,12 @@ TEST(DotProduct, OfOtherArraysWritesEachResultBeforeItReadsTheNextObject)
                     checkOneByOne<float>("vava", size, layout, onSecond, offset);
                     checkOneByOne<double>("vava", size, layout, onSecond, offset);
                 }
-                if (size > 4)
-                    checkOneByOne<float>("vav", size, layout, false, offset);
-                if (size > 3 || *layout)
-                    checkOneByOne<double>("vav", size, layout, false, offset);
+                for (bool onSecond : {false, true}) {
+                    if (size > 4)
+                        checkOneByOne<float>("vav", size, layout, onSecond, offset);
+                    if (size > 3 || *layout)
+                        checkOneByOne<double>("vav", size, layout, onSecond, offset);
+                }
             }
 }
 
