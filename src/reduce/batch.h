@@ -160,17 +160,18 @@ struct OnOneSide
 {
     using T = typename O::Value;
 
+    const O& source;
     bool possible;
     Address toFirst, length; // of the addresses that objects may have
 
-    TENK_INLINE OnOneSide(const O& o, const T* dst, std::size_t count)
+    TENK_INLINE OnOneSide(const O& o, const T* dst, std::size_t count) : source(o)
     {
         constexpr std::size_t bytes = n * sizeof(T);
         const Address results = resultAddress(dst, 0), end = resultAddress(dst, count);
         possible = count != 0 && end > results && results > bytes;
         if constexpr (O::list) {
-            possible =
-                possible && o.shift == 0 && areApart(results, end - results, o.p, count * sizeof(Address));
+            possible = possible && o.shift == 0 && (sizeof(Address) == 8 || o.p % 16 == 0) &&
+                       areApart(results, end - results, o.p, count * sizeof(Address));
             const bool behind = possible && o.entry(0) >= end;
             toFirst = 0 - (behind ? end : 1);
             length = (behind ? 0 - end : results) - bytes;
@@ -179,6 +180,23 @@ struct OnOneSide
         }
     }
     TENK_INLINE bool mayRead(Address object) const { return !O::list || object + toFirst < length; }
+
+    // The same of the four objects from k on, as masks, where an address has 32 bits: compared as signed
+    // numbers. The entries of a step are read at once, so the list has to be aligned, for them to lie on one
+    // page.
+    TENK_INLINE __m128i mayReadFour(std::size_t k) const
+    {
+        const auto inAll = [](Address a) TENK_LAMBDA { return _mm_set1_epi32(static_cast<std::int32_t>(a)); };
+        if constexpr (!O::list)
+            return inAll(~Address{0});
+        const auto entries = _mm_load_si128(reinterpret_cast<const __m128i*>(source.p + k * sizeof(Address)));
+        constexpr Address sign = 0x80000000;
+        return _mm_cmplt_epi32(_mm_add_epi32(entries, inAll(toFirst + sign)), inAll(length - sign));
+    }
 };
+TENK_INLINE bool allOf(__m128i a, __m128i b)
+{
+    return _mm_movemask_epi8(_mm_and_si128(a, b)) == 0xFFFF;
+}
 
 } // namespace tenk

@@ -26,8 +26,8 @@ inline constexpr bool manyRegisters = sizeof(Address) == 8;
 
 // How the objects of a batch are taken. Those of some members are read a step at a time, and their list
 // entries tested, before the first result of the step is written; in 64f that is so in Standard layout alone.
-// All others go object by object, as far as can be told; in lists it pays to find that out where sums are
-// long or one vector is the same for all, if there are registers enough.
+// All others go object by object, as far as can be told. In two lists it does not always pay to find that
+// out.
 consteval BatchSteps stepsOf(Member m)
 {
     if (m == "tenkDotProduct_vav_32f_3x1" || m == "tenkDotProduct_vav_32f_3x1_L" ||
@@ -35,13 +35,12 @@ consteval BatchSteps stepsOf(Member m)
         return {4, true};
     if (m == "tenkDotProduct_vav_64f_3x1")
         return {2, true};
-    if (!m.batch() || m.general())
+    const bool list = m.layout == Layout::List, twoLists = list && m.source(1).array;
+    if (!m.batch() || m.general() || !(m.layout == Layout::Standard || list))
         return {1, true};
-    if (m.layout == Layout::Standard && m.type == Type::f32)
-        return {manyRegisters || m.size < 6 || !m.source(1).array ? 4U : 1U, false};
-    if (m.layout == Layout::List && m.type == Type::f32 && manyRegisters)
+    if (m.type == Type::f32 && (manyRegisters || !twoLists || m.size != 5))
         return {4, false};
-    if (m.layout == Layout::Standard || (m.layout == Layout::List && manyRegisters && !m.source(1).array))
+    if (m.type == Type::f64 && (m.layout == Layout::Standard || (manyRegisters && !twoLists)))
         return {2, false};
     return {1, true};
 }
@@ -97,6 +96,15 @@ TENK_INLINE Products<m> productsOf(Address x, Address y)
     return Products<m>::load(x) * Products<m>::load(y);
 }
 
+// The sums of the elements of four objects.
+template <unsigned n>
+TENK_INLINE Vector<float> sumInOrder(const FourSideBySide<n>& four)
+{
+    Vector<float> s = four.element[0];
+    each<n - 1>([&](auto j) TENK_LAMBDA { s = s + four.element[j + 1]; });
+    return s;
+}
+
 // The sums of a whole step, one object per lane.
 template <Member m>
 TENK_INLINE auto sumsOfStep(const Products<m> (&p)[lanes<Element<m>>])
@@ -117,10 +125,28 @@ TENK_INLINE auto sumsOfStep(const Products<m> (&p)[lanes<Element<m>>])
         if constexpr (addsPairs(m))
             return sumNeighbours(sumNeighbours(p[0].vector[0], p[1].vector[0]),
                                  sumNeighbours(p[2].vector[0], p[3].vector[0]));
-        const FourSideBySide<m.size> four(p);
-        Vector<float> s = four.element[0];
-        each<m.size - 1>([&](auto j) TENK_LAMBDA { s = s + four.element[j + 1]; });
-        return s;
+        return sumInOrder(FourSideBySide<m.size>(p));
+    }
+}
+
+// The same from the addresses x(i) and y(i) of the objects. In 32f the last two of six elements are read at
+// the end, two objects at a time.
+template <Member m, typename X, typename Y>
+TENK_INLINE auto sumsOfStep(X x, Y y)
+{
+    if constexpr (m.type == Type::f32 && m.size == 6) {
+        Row<float, 4> p[4];
+        each<4>([&](auto i) TENK_LAMBDA { p[i] = Row<float, 4>::load(x(i)) * Row<float, 4>::load(y(i)); });
+        const auto s = sumInOrder(FourSideBySide<4>(p));
+        const auto lastOf = [&](std::size_t i) TENK_LAMBDA {
+            return loadHalves(x(i) + 16, x(i + 1) + 16) * loadHalves(y(i) + 16, y(i + 1) + 16);
+        };
+        const auto low = lastOf(0), high = lastOf(2);
+        return (s + shuffle<0, 2, 4, 6>(low, high)) + shuffle<1, 3, 5, 7>(low, high);
+    } else {
+        Products<m> p[lanes<Element<m>>];
+        each<lanes<Element<m>>>([&](auto i) TENK_LAMBDA { p[i] = productsOf<m>(x(i), y(i)); });
+        return sumsOfStep<m>(p);
     }
 }
 
@@ -157,12 +183,23 @@ TENK_INLINE tenkStatus products(const Source<m>& src1, const Source<m, 1>& src2,
             return s;
         }
     };
+    const auto several = [&](auto k) TENK_LAMBDA {
+        return sumsOfStep<m>([&](std::size_t i) TENK_LAMBDA { return src1.object(k + i, n).start; },
+                             [&](std::size_t i) TENK_LAMBDA { return src2.object(k + i, n).start; });
+    };
     if constexpr (m.layout == Layout::List && !steps.together) {
         const OnOneSide<n, Source<m>> side1(src1, dst, count);
-        // The second list is not looked at before the first entry of the first is tested.
+        // Possible only if the first is. The second list is not looked at before an entry of the first is
+        // tested.
         const OnOneSide<n, Source<m, 1>> side2(src2, dst,
                                                side1.possible && !src1.nullEntry(0) ? std::size_t{count} : 0);
         const auto step = [&](std::size_t k, Vector<T>& sums) TENK_LAMBDA {
+            if constexpr (!manyRegisters) {
+                if (!allOf(side1.mayReadFour(k), side2.mayReadFour(k)))
+                    return false;
+                sums = several(k);
+                return true;
+            }
             Products<m> p[steps.objects];
             bool read = true;
             each<steps.objects>([&](auto i) TENK_LAMBDA {
@@ -183,17 +220,10 @@ TENK_INLINE tenkStatus products(const Source<m>& src1, const Source<m, 1>& src2,
                 sums = sumsOfStep<m>(p);
             return read;
         };
-        return stepsOrSingles<steps>(dst, count, side1.possible && side2.possible, isNull, step, one);
+        return stepsOrSingles<steps>(dst, count, side2.possible, isNull, step, one);
     } else {
         const Apart<1, n, steps.objects, Source<m>> apart1(src1, dst, count);
         const Apart<1, n, steps.objects, Source<m, 1>> apart2(src2, dst, count);
-        const auto several = [&](auto k) TENK_LAMBDA {
-            Products<m> p[steps.objects];
-            each<steps.objects>([&](auto i) TENK_LAMBDA {
-                p[i] = productsOf<m>(src1.object(k + i, n).start, src2.object(k + i, n).start);
-            });
-            return sumsOfStep<m>(p);
-        };
         return inSteps<steps>(dst, count, isNull, BothApart{apart1, apart2}, several, one);
     }
 }

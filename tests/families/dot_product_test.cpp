@@ -397,21 +397,37 @@ TEST(DotProduct, OfOtherListsTestsOneEntryAtATime)
     }
 }
 
-TEST(DotProduct, OfListsWithAShiftTakesNoNullEntryForAnAddress)
+// Objects in front of the results and behind them, in either list, with a shift and without.
+TEST(DotProduct, OfListsStopsAtANullEntryWhereverTheObjectsAre)
 {
-    const Floats x(6, 1);
-    const float* const later = x.data() + 1;
-    const float* entries[] = {later, later, nullptr, later};
-    const float* others[] = {later, later, later, later};
-    const auto back = static_cast<std::uint32_t>(-4);
-    for (bool second : {false, true}) {
-        Floats s(4, -1);
-        const float* const* const first = second ? others : entries;
-        const float* const* const last = second ? entries : others;
-        EXPECT_EQ(
-            tenkDotProduct_vava_32f_5x1_L(first, second ? 0 : back, last, second ? back : 0, s.data(), 4),
-            tenkNullPointerError);
-        EXPECT_EQ(s, (Floats{5, 5, -1, -1}));
+    for (unsigned results : {0U, 30U})
+        for (unsigned shift : {0U, 4U})
+            for (bool second : {false, true}) {
+                Floats memory(40, 1);
+                const float* const x = memory.data() + 12;
+                alignas(16) const float* entries[] = {x, x, nullptr, x};
+                alignas(16) const float* others[] = {x, x, x, x};
+                EXPECT_EQ(tenkDotProduct_vava_32f_5x1_L(second ? others : entries, second ? 0 : shift,
+                                                        second ? entries : others, second ? shift : 0,
+                                                        &memory[results], 4),
+                          tenkNullPointerError);
+                Floats expected(40, 1);
+                expected[results] = expected[results + 1] = 5;
+                EXPECT_EQ(memory, expected);
+            }
+}
+
+// The second object has the first result as its last element, or as its first.
+TEST(DotProduct, OfListsReadsResultsThatLieOnTheObjectsBehindOrInFrontOfThem)
+{
+    const Floats ones(5, 1);
+    for (bool behind : {false, true}) {
+        Floats memory(20, 1);
+        const float* const m = memory.data();
+        const float* const first = behind ? m + 12 : m;
+        alignas(16) const float* entries[] = {first, behind ? m + 4 : m + 8, first, first};
+        EXPECT_EQ(tenkDotProduct_vav_32f_5x1_L(entries, 0, ones.data(), &memory[8], 4), tenkOk);
+        EXPECT_EQ(Floats(m + 8, m + 12), (Floats{5, 9, 5, 5}));
     }
 }
 
