@@ -429,6 +429,12 @@ TEST(DotProduct, OfListsReadsResultsThatLieOnTheObjectsBehindOrInFrontOfThem)
         EXPECT_EQ(tenkDotProduct_vav_32f_5x1_L(entries, 0, ones.data(), &memory[8], 4), tenkOk);
         EXPECT_EQ(Floats(m + 8, m + 12), (Floats{5, 9, 5, 5}));
     }
+    // The third begins with the second result.
+    Floats memory(20, 1);
+    const float* const m = memory.data();
+    alignas(16) const float* entries[] = {m + 12, m + 12, m + 9, m + 12};
+    EXPECT_EQ(tenkDotProduct_vav_32f_5x1_L(entries, 0, ones.data(), &memory[8], 4), tenkOk);
+    EXPECT_EQ(Floats(m + 8, m + 12), (Floats{5, 5, 9, 5}));
 }
 
 TEST(DotProduct, OfAListThatBeginsWithANullEntryReadsNothingOfTheOther)
