@@ -27,33 +27,29 @@ struct BatchSteps
 // Results of `steps.objects` objects at a time, then of the rest one by one. An object or a step is read as a
 // whole before its results are written, and the list entries of an object are tested before it is read.
 //
-//   isNull(k)     an entry of object k is null
-//   isApart(k)    the results of the step at k lie on none of its objects, nor on their list entries
-//   several(k)    the results of the step at k, a vector
-//   one(k)        the result of object k
-template <BatchSteps steps, typename T, typename Null, typename Apart, typename Several, typename One>
-TENK_INLINE tenkStatus inSteps(T* dst, std::size_t count, Null isNull, Apart isApart, Several several,
-                               One one)
+//   possible          steps may be tried
+//   isNull(k)         an entry of object k is null
+//   step(k, results)  works out the results of the step at k, a vector, or answers false: where steps are
+//                     together, for a null entry; else the step is split up
+//   one(k)            the result of object k
+template <BatchSteps steps, typename T, typename Null, typename Step, typename One>
+TENK_INLINE tenkStatus stepsOrSingles(T* dst, std::size_t count, bool possible, Null isNull, Step step,
+                                      One one)
 {
     std::size_t k = 0;
-    const auto anyNullInStep = [&] TENK_LAMBDA {
-        bool null = false;
-        each<steps.objects>([&](auto n) TENK_LAMBDA { null |= isNull(k + n); });
-        return null;
-    };
     while (k < count) {
         std::size_t end = count;
         if constexpr (steps.objects > 1) {
-            if (steps.together || isApart.possible)
+            if (possible)
                 for (; count - k >= steps.objects; k += steps.objects) {
-                    const bool null = anyNullInStep();
-                    if (steps.together && null)
-                        return tenkNullPointerError;
-                    if (!steps.together && (null || !isApart(k))) {
+                    Vector<T> results;
+                    if (!step(k, results)) {
+                        if (steps.together)
+                            return tenkNullPointerError;
                         end = k + steps.objects;
                         break;
                     }
-                    store<Vector<T>>(resultAddress(dst, k), several(k));
+                    store<Vector<T>>(resultAddress(dst, k), results);
                 }
         }
         for (; k < end; ++k) {
@@ -63,6 +59,25 @@ TENK_INLINE tenkStatus inSteps(T* dst, std::size_t count, Null isNull, Apart isA
         }
     }
     return tenkOk;
+}
+
+// The same, where all tests of a step come before all its work.
+//
+//   isApart(k)    the results of the step at k lie on none of its objects, nor on their list entries
+//   several(k)    the results of the step at k
+template <BatchSteps steps, typename T, typename Null, typename Apart, typename Several, typename One>
+TENK_INLINE tenkStatus inSteps(T* dst, std::size_t count, Null isNull, Apart isApart, Several several,
+                               One one)
+{
+    const auto step = [&](auto k, Vector<T>& results) TENK_LAMBDA {
+        bool null = false;
+        each<steps.objects>([&](auto n) TENK_LAMBDA { null |= isNull(k + n); });
+        if (null || !(steps.together || isApart(k)))
+            return false;
+        results = several(k);
+        return true;
+    };
+    return stepsOrSingles<steps>(dst, count, steps.together || isApart.possible, isNull, step, one);
 }
 
 // For steps together, or for no steps.
@@ -126,15 +141,62 @@ struct Apart
     }
 };
 
-// The same of two sources.
+// The same of two sources whose objects are a step apart.
 template <typename A, typename B>
 struct BothApart
 {
-    const A& first;
-    const B& second;
-    bool possible = first.possible && second.possible;
+    bool possible;
 
-    TENK_INLINE bool operator()(std::size_t k) const { return first(k) && second(k); }
+    TENK_INLINE BothApart(const A& first, const B& second) : possible(first.possible && second.possible) {}
+    TENK_INLINE bool operator()(std::size_t) const { return true; }
 };
+
+// Whether an object of n adjacent elements may be read before the results of earlier ones are written, with
+// one comparison for each entry of a list: one that is not null, and whose object lies on the same side of
+// all results as the first one. Without a list it is found out once. The answer is no if something is added
+// to the entries.
+template <unsigned n, typename O>
+struct OnOneSide
+{
+    using T = typename O::Value;
+
+    const O& source;
+    bool possible;
+    Address toFirst, length; // of the addresses that objects may have
+
+    TENK_INLINE OnOneSide(const O& o, const T* dst, std::size_t count) : source(o)
+    {
+        constexpr std::size_t bytes = n * sizeof(T);
+        const Address results = resultAddress(dst, 0), end = resultAddress(dst, count);
+        possible = count != 0 && end > results && results > bytes;
+        if constexpr (O::list) {
+            possible = possible && o.shift == 0 && (sizeof(Address) == 8 || o.p % 16 == 0) &&
+                       areApart(results, end - results, o.p, count * sizeof(Address));
+            const bool behind = possible && o.entry(0) >= end;
+            toFirst = 0 - (behind ? end : 1);
+            length = (behind ? 0 - end : results) - bytes;
+        } else {
+            possible = possible && areApart(results, end - results, o.p, bytes);
+        }
+    }
+    TENK_INLINE bool mayRead(Address object) const { return !O::list || object + toFirst < length; }
+
+    // The same of the four objects from k on, as masks, where an address has 32 bits: compared as signed
+    // numbers. The entries of a step are read at once, so the list has to be aligned, for them to lie on one
+    // page.
+    TENK_INLINE __m128i mayReadFour(std::size_t k) const
+    {
+        const auto inAll = [](Address a) TENK_LAMBDA { return _mm_set1_epi32(static_cast<std::int32_t>(a)); };
+        if constexpr (!O::list)
+            return inAll(~Address{0});
+        const auto entries = _mm_load_si128(reinterpret_cast<const __m128i*>(source.p + k * sizeof(Address)));
+        constexpr Address sign = 0x80000000;
+        return _mm_cmplt_epi32(_mm_add_epi32(entries, inAll(toFirst + sign)), inAll(length - sign));
+    }
+};
+TENK_INLINE bool allOf(__m128i a, __m128i b)
+{
+    return _mm_movemask_epi8(_mm_and_si128(a, b)) == 0xFFFF;
+}
 
 } // namespace tenk

@@ -54,10 +54,11 @@ TENK_INLINE Turned<T> loadTurned(Address a)
         t.afterNext.rest = shuffle<3, 0, 0, 1>(v, v);
     } else {
         const double first = load<double>(a);
-        t.next.vector[0] = loadVector<double>(a + 8);
+        const auto v = inRegister(loadVector<double>(a + 8));
+        t.next.vector[0] = v;
         t.next.rest = first;
-        t.afterNext.vector[0] = Vector<double>{t.next.vector[0][1], first};
-        t.afterNext.rest = t.next.vector[0][0];
+        t.afterNext.vector[0] = shuffle<1, 2>(v, Vector<double>{first});
+        t.afterNext.rest = v[0];
     }
     return t;
 }

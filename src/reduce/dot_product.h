@@ -22,13 +22,12 @@ consteval bool addsPairs(Member m)
     return m == "tenkDotProduct_vav_32f_4x1" || m == "tenkDotProduct_vav_32f_4x1_L";
 }
 
-// Whether the addresses of eight vectors find room: not on i386.
 inline constexpr bool manyRegisters = sizeof(Address) == 8;
 
 // How the objects of a batch are taken. Those of some members are read a step at a time, and their list
 // entries tested, before the first result of the step is written; in 64f that is so in Standard layout alone.
-// All others go object by object, as far as can be told; in lists it pays to find that out for each step only
-// where the sums are long.
+// All others go object by object, as far as can be told. In two lists it does not always pay to find that
+// out.
 consteval BatchSteps stepsOf(Member m)
 {
     if (m == "tenkDotProduct_vav_32f_3x1" || m == "tenkDotProduct_vav_32f_3x1_L" ||
@@ -36,14 +35,21 @@ consteval BatchSteps stepsOf(Member m)
         return {4, true};
     if (m == "tenkDotProduct_vav_64f_3x1")
         return {2, true};
-    if (!m.batch() || m.general())
+    const bool list = m.layout == Layout::List, twoLists = list && m.source(1).array;
+    if (!m.batch() || m.general() || !(m.layout == Layout::Standard || list))
         return {1, true};
-    if (m.layout == Layout::Standard)
-        return m.type == Type::f64 ? BatchSteps{2, false} : BatchSteps{m.size >= 4 ? 4U : 1U, false};
-    if (m.type == Type::f32 && m.layout == Layout::List && m.size >= 4 &&
-        (manyRegisters || !m.source(1).array))
+    if (m.type == Type::f32 && (manyRegisters || !twoLists || m.size != 5))
         return {4, false};
+    if (m.type == Type::f64 && (m.layout == Layout::Standard || (manyRegisters && !twoLists)))
+        return {2, false};
     return {1, true};
+}
+
+// Lane i. The compiler would copy the vector to shuffle the copy.
+template <std::size_t i>
+TENK_INLINE float lane(Vector<float> v)
+{
+    return _mm_cvtss_f32(_mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(v), i)));
 }
 
 // The sum of products of a fixed size in 32f.
@@ -51,11 +57,17 @@ template <Member m>
 TENK_INLINE float sumInOrder(Address x, Address y)
 {
     const auto p = [&](std::size_t i) TENK_LAMBDA { return load<float>(x + i * 4) * load<float>(y + i * 4); };
-    if constexpr (addsPairs(m))
-        return (p(0) + p(1)) + (p(2) + p(3));
-    float s = p(0);
-    each<m.size - 1>([&](auto i) TENK_LAMBDA { s = s + p(i + 1); });
-    return s;
+    if constexpr (m.size == 3) {
+        return (p(0) + p(1)) + p(2);
+    } else {
+        const Vector<float> four = loadVector<float>(x) * loadVector<float>(y);
+        if constexpr (addsPairs(m))
+            return (four[0] + lane<1>(four)) + (lane<2>(four) + lane<3>(four));
+        float s = four[0];
+        each<3>([&](auto i) TENK_LAMBDA { s = s + lane<i + 1>(four); });
+        each<m.size - 4>([&](auto i) TENK_LAMBDA { s = s + p(i + 4); });
+        return s;
+    }
 }
 
 // The sum of products of a fixed size in 64f.
@@ -74,15 +86,30 @@ requires(m.type == Type::f64) TENK_INLINE double sumInOrder(Address x, Address y
     return both;
 }
 
-// The same for a whole step, one object per lane; x(i) and y(i) are the addresses of the vectors of object i
-// of the step.
-template <Member m, typename X, typename Y>
-TENK_INLINE auto sumsOfStep(X x, Y y)
+// The products of the elements of an object.
+template <Member m>
+using Products = Row<Element<m>, m.size>;
+
+template <Member m>
+TENK_INLINE Products<m> productsOf(Address x, Address y)
 {
-    using R = Row<Element<m>, m.size>;
-    const auto products = [&](auto i) TENK_LAMBDA { return R::load(x(i)) * R::load(y(i)); };
+    return Products<m>::load(x) * Products<m>::load(y);
+}
+
+// The sums of the elements of four objects.
+template <unsigned n>
+TENK_INLINE Vector<float> sumInOrder(const FourSideBySide<n>& four)
+{
+    Vector<float> s = four.element[0];
+    each<n - 1>([&](auto j) TENK_LAMBDA { s = s + four.element[j + 1]; });
+    return s;
+}
+
+// The sums of a whole step, one object per lane.
+template <Member m>
+TENK_INLINE auto sumsOfStep(const Products<m> (&p)[lanes<Element<m>>])
+{
     if constexpr (m.type == Type::f64) {
-        const R p[2] = {products(index<0>), products(index<1>)};
         if constexpr (m.size == 6) {
             const auto a = p[0].vector[0] + (p[0].vector[1] + p[0].vector[2]);
             const auto b = p[1].vector[0] + (p[1].vector[1] + p[1].vector[2]);
@@ -95,15 +122,42 @@ TENK_INLINE auto sumsOfStep(X x, Y y)
                 return (s.even + s.odd) + Vector<double>{p[0].rest, p[1].rest};
         }
     } else {
-        const R p[4] = {products(index<0>), products(index<1>), products(index<2>), products(index<3>)};
         if constexpr (addsPairs(m))
             return sumNeighbours(sumNeighbours(p[0].vector[0], p[1].vector[0]),
                                  sumNeighbours(p[2].vector[0], p[3].vector[0]));
-        const FourSideBySide<m.size> four(p);
-        Vector<float> s = four.element[0];
-        each<m.size - 1>([&](auto j) TENK_LAMBDA { s = s + four.element[j + 1]; });
-        return s;
+        return sumInOrder(FourSideBySide<m.size>(p));
     }
+}
+
+// The same from the addresses x(i) and y(i) of the objects. In 32f the last two of six elements are read at
+// the end, two objects at a time.
+template <Member m, typename X, typename Y>
+TENK_INLINE auto sumsOfStep(X x, Y y)
+{
+    if constexpr (m.type == Type::f32 && m.size == 6) {
+        Row<float, 4> p[4];
+        each<4>([&](auto i) TENK_LAMBDA { p[i] = Row<float, 4>::load(x(i)) * Row<float, 4>::load(y(i)); });
+        const auto s = sumInOrder(FourSideBySide<4>(p));
+        const auto lastOf = [&](std::size_t i) TENK_LAMBDA {
+            return loadHalves(x(i) + 16, x(i + 1) + 16) * loadHalves(y(i) + 16, y(i + 1) + 16);
+        };
+        const auto low = lastOf(0), high = lastOf(2);
+        return (s + shuffle<0, 2, 4, 6>(low, high)) + shuffle<1, 3, 5, 7>(low, high);
+    } else {
+        Products<m> p[lanes<Element<m>>];
+        each<lanes<Element<m>>>([&](auto i) TENK_LAMBDA { p[i] = productsOf<m>(x(i), y(i)); });
+        return sumsOfStep<m>(p);
+    }
+}
+
+// Takes the products as worked out here. The compiler would put the loads off until the list entries of the
+// whole step are tested, and has no registers for so many addresses.
+template <typename P>
+TENK_INLINE void workedOut(P& products)
+{
+    each<P::full>([&](auto v) TENK_LAMBDA { asm volatile("" : "+x"(products.vector[v])); });
+    if constexpr (P::left != 0)
+        asm volatile("" : "+x"(products.rest));
 }
 
 template <Member m>
@@ -114,29 +168,64 @@ TENK_INLINE tenkStatus products(const Source<m>& src1, const Source<m, 1>& src2,
     constexpr bool adjacent = isDense(m.layout) && !m.general();
     constexpr BatchSteps steps = stepsOf(m);
     constexpr unsigned n = m.general() ? 1 : m.size;
-    const Apart<1, n, steps.objects, Source<m>> apart1(src1, dst, count);
-    const Apart<1, n, steps.objects, Source<m, 1>> apart2(src2, dst, count);
-    return inSteps<steps>(
-        dst, count, [&](std::size_t k) TENK_LAMBDA { return anyNullObject(k, src1, src2); },
-        BothApart<decltype(apart1), decltype(apart2)>{apart1, apart2},
-        [&](auto k) TENK_LAMBDA {
-            return sumsOfStep<m>([&](std::size_t i) TENK_LAMBDA { return src1.object(k + i, n).start; },
-                                 [&](std::size_t i) TENK_LAMBDA { return src2.object(k + i, n).start; });
-        },
-        [&](std::size_t k) TENK_LAMBDA -> T {
-            const auto x = src1.object(k, length);
-            const auto y = src2.object(k, length);
-            if constexpr (adjacent) {
-                return sumInOrder<m>(x.start, y.start);
-            } else if constexpr (isDense(m.layout) && !m.batch()) {
-                return blockSum<T>(x.start, y.start, length);
-            } else {
-                T s = 0;
-                for (std::size_t j = 0; j < length; ++j)
-                    s = s + load<T>(x.at(0, j)) * load<T>(y.at(0, j));
-                return s;
+    const auto isNull = [&](std::size_t k) TENK_LAMBDA { return anyNullObject(k, src1, src2); };
+    const auto one = [&](std::size_t k) TENK_LAMBDA -> T {
+        const auto x = src1.object(k, length);
+        const auto y = src2.object(k, length);
+        if constexpr (adjacent) {
+            return sumInOrder<m>(x.start, y.start);
+        } else if constexpr (isDense(m.layout) && !m.batch()) {
+            return blockSum<T>(x.start, y.start, length);
+        } else {
+            T s = 0;
+            for (std::size_t j = 0; j < length; ++j)
+                s = s + load<T>(x.at(0, j)) * load<T>(y.at(0, j));
+            return s;
+        }
+    };
+    const auto several = [&](auto k) TENK_LAMBDA {
+        return sumsOfStep<m>([&](std::size_t i) TENK_LAMBDA { return src1.object(k + i, n).start; },
+                             [&](std::size_t i) TENK_LAMBDA { return src2.object(k + i, n).start; });
+    };
+    if constexpr (m.layout == Layout::List && !steps.together) {
+        const OnOneSide<n, Source<m>> side1(src1, dst, count);
+        // Possible only if the first is. The second list is not looked at before an entry of the first is
+        // tested.
+        const OnOneSide<n, Source<m, 1>> side2(src2, dst,
+                                               side1.possible && !src1.nullEntry(0) ? std::size_t{count} : 0);
+        const auto step = [&](std::size_t k, Vector<T>& sums) TENK_LAMBDA {
+            if constexpr (!manyRegisters) {
+                if (!allOf(side1.mayReadFour(k), side2.mayReadFour(k)))
+                    return false;
+                sums = several(k);
+                return true;
             }
-        });
+            Products<m> p[steps.objects];
+            bool read = true;
+            each<steps.objects>([&](auto i) TENK_LAMBDA {
+                const auto multiply = [&] TENK_LAMBDA {
+                    const Address x = src1.object(k + i, n).start;
+                    if (!side1.mayRead(x))
+                        return false;
+                    const Address y = src2.object(k + i, n).start;
+                    if (!side2.mayRead(y))
+                        return false;
+                    p[i] = productsOf<m>(x, y);
+                    workedOut(p[i]);
+                    return true;
+                };
+                read = read && multiply();
+            });
+            if (read)
+                sums = sumsOfStep<m>(p);
+            return read;
+        };
+        return stepsOrSingles<steps>(dst, count, side2.possible, isNull, step, one);
+    } else {
+        const Apart<1, n, steps.objects, Source<m>> apart1(src1, dst, count);
+        const Apart<1, n, steps.objects, Source<m, 1>> apart2(src2, dst, count);
+        return inSteps<steps>(dst, count, isNull, BothApart{apart1, apart2}, several, one);
+    }
 }
 
 } // namespace tenk::dot

@@ -132,7 +132,7 @@ TEST(DotProduct, OfSixElementsIn64fStartsFromTheBack)
 
 TEST(DotProduct, OfMinusZeroIsPlusZeroWhereTheSumStartsFromZero)
 {
-    const float minus[] = {-0.0F, -0.0F, -0.0F}, ones[] = {1, 1, 1};
+    const float minus[] = {-0.0F, -0.0F, -0.0F, -0.0F, -0.0F, -0.0F}, ones[] = {1, 1, 1, 1, 1, 1};
     const float* table[] = {minus, minus + 1, minus + 2};
     const float* onesTable[] = {ones, ones + 1, ones + 2};
     float s = 9;
@@ -142,8 +142,12 @@ TEST(DotProduct, OfMinusZeroIsPlusZeroWhereTheSumStartsFromZero)
     EXPECT_EQ(std::bit_cast<std::uint32_t>(s), 0U);
     EXPECT_EQ(tenkDotProduct_vv_32f_3x1_S2(minus, 4, ones, 4, &s), tenkOk);
     EXPECT_EQ(std::bit_cast<std::uint32_t>(s), 0U);
-    EXPECT_EQ(tenkDotProduct_vv_32f_3x1(minus, ones, &s), tenkOk);
-    EXPECT_EQ(std::bit_cast<std::uint32_t>(s), 0x80000000U);
+    for (const char* name : {"tenkDotProduct_vv_32f_3x1", "tenkDotProduct_vv_32f_4x1",
+                             "tenkDotProduct_vv_32f_5x1", "tenkDotProduct_vv_32f_6x1"}) {
+        s = 9;
+        EXPECT_EQ(callByName(name, {{pointer(minus), pointer(ones), pointer(&s)}}), tenkOk);
+        EXPECT_EQ(std::bit_cast<std::uint32_t>(s), 0x80000000U) << name;
+    }
 }
 
 // ---------------------------------------------------------------------------------------------------------------
@@ -393,6 +397,60 @@ TEST(DotProduct, OfOtherListsTestsOneEntryAtATime)
     }
 }
 
+// Objects in front of the results and behind them, in either list, with a shift and without.
+TEST(DotProduct, OfListsStopsAtANullEntryWhereverTheObjectsAre)
+{
+    for (unsigned results : {0U, 30U})
+        for (unsigned shift : {0U, 4U})
+            for (bool second : {false, true}) {
+                Floats memory(40, 1);
+                const float* const x = memory.data() + 12;
+                alignas(16) const float* entries[] = {x, x, nullptr, x};
+                alignas(16) const float* others[] = {x, x, x, x};
+                EXPECT_EQ(tenkDotProduct_vava_32f_5x1_L(second ? others : entries, second ? 0 : shift,
+                                                        second ? entries : others, second ? shift : 0,
+                                                        &memory[results], 4),
+                          tenkNullPointerError);
+                Floats expected(40, 1);
+                expected[results] = expected[results + 1] = 5;
+                EXPECT_EQ(memory, expected);
+            }
+}
+
+// The second object has the first result as its last element, or as its first.
+TEST(DotProduct, OfListsReadsResultsThatLieOnTheObjectsBehindOrInFrontOfThem)
+{
+    const Floats ones(5, 1);
+    for (bool behind : {false, true}) {
+        Floats memory(20, 1);
+        const float* const m = memory.data();
+        const float* const first = behind ? m + 12 : m;
+        alignas(16) const float* entries[] = {first, behind ? m + 4 : m + 8, first, first};
+        EXPECT_EQ(tenkDotProduct_vav_32f_5x1_L(entries, 0, ones.data(), &memory[8], 4), tenkOk);
+        EXPECT_EQ(Floats(m + 8, m + 12), (Floats{5, 9, 5, 5}));
+    }
+    // The third begins with the second result.
+    Floats memory(20, 1);
+    const float* const m = memory.data();
+    alignas(16) const float* entries[] = {m + 12, m + 12, m + 9, m + 12};
+    EXPECT_EQ(tenkDotProduct_vav_32f_5x1_L(entries, 0, ones.data(), &memory[8], 4), tenkOk);
+    EXPECT_EQ(Floats(m + 8, m + 12), (Floats{5, 5, 9, 5}));
+}
+
+TEST(DotProduct, OfAListThatBeginsWithANullEntryReadsNothingOfTheOther)
+{
+    void* const unreadable = mmap(nullptr, 4096, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    ASSERT_NE(unreadable, MAP_FAILED);
+    const Floats x(5, 1);
+    const float* entries[] = {nullptr, x.data(), x.data(), x.data()};
+    Floats s(4, -1);
+    EXPECT_EQ(
+        tenkDotProduct_vava_32f_5x1_L(entries, 0, static_cast<const float**>(unreadable), 0, s.data(), 4),
+        tenkNullPointerError);
+    EXPECT_EQ(s, Floats(4, -1));
+    munmap(unreadable, 4096);
+}
+
 // The results of a step lie on objects of the same step, which have been read by then, and of none before it.
 TEST(DotProduct, OfSomeArraysReadsAWholeStepBeforeItWrites)
 {
@@ -461,10 +519,12 @@ TEST(DotProduct, OfOtherArraysWritesEachResultBeforeItReadsTheNextObject)
                     checkOneByOne<float>("vava", size, layout, onSecond, offset);
                     checkOneByOne<double>("vava", size, layout, onSecond, offset);
                 }
-                if (size > 4)
-                    checkOneByOne<float>("vav", size, layout, false, offset);
-                if (size > 3 || *layout)
-                    checkOneByOne<double>("vav", size, layout, false, offset);
+                for (bool onSecond : {false, true}) {
+                    if (size > 4)
+                        checkOneByOne<float>("vav", size, layout, onSecond, offset);
+                    if (size > 3 || *layout)
+                        checkOneByOne<double>("vav", size, layout, onSecond, offset);
+                }
             }
 }
 
