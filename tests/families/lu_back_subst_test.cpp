@@ -296,6 +296,9 @@ TEST(LUBackSubstArithmetic, SumsStartAtPlusZero)
     float x[3];
     ASSERT_EQ(tenkLUBackSubst_mv_32f_3x3(factor, 12, r, b, x), tenkOk);
     EXPECT_TRUE(same(x[1], -0.0F));
+    x[1] = 1;
+    ASSERT_EQ(tenkLUBackSubst_mv_32f_3x3_S2(factor, 12, 4, r, b, 4, x, 4), tenkOk);
+    EXPECT_TRUE(same(x[1], -0.0F));
     const float bs[4][3] = {{1, -0.0F, 0}, {1, -0.0F, 0}, {1, -0.0F, 0}, {1, -0.0F, 0}};
     float xs[4][3];
     ASSERT_EQ(tenkLUBackSubst_mva_32f_3x3(factor, 99, 12, r, bs[0], 12, xs[0], 12, 4), tenkOk);
@@ -517,6 +520,72 @@ TYPED_TEST(LUBackSubst, ABatchWithoutGapsInOrderAndExchanged)
                                      9);
     for (std::size_t k = 0; k < 9; ++k)
         EXPECT_TRUE(same({x[3 * k], x[3 * k + 1], x[3 * k + 2]}, std::vector<T>{T(-3.5), 3, T(-0.5)})) << k;
+}
+
+TYPED_TEST(LUBackSubst, ARowOutOfRangeIsReadWhenItsObjectIsReached)
+{
+    // The results stand behind the factor, the identity of order 3: row 3 of it is the solution of object 0.
+    using T = TypeParam;
+    constexpr std::uint32_t row = 3 * sizeof(T);
+    std::vector<T> memory = {1, 0, 0, 0, 1, 0, 0, 0, 1};
+    memory.resize(9 + 4 * 3, 7);
+    const std::vector<T> before = memory;
+    const auto results = [&] { return std::vector<T>(memory.begin() + 9, memory.end()); };
+
+    // Rows 0 1 3 for object 1: 1, 2 and 4 of object 0 are L(2, 0), L(2, 1) and U(2, 2); b[3] is 21, the first
+    // element of object 2. So y = (3, 5, 21 - (3 + 10)) and x[2] = 8 / 4.
+    const std::uint32_t rows[12] = {0, 1, 2, 0, 1, 3, 0, 1, 2, 0, 1, 2};
+    const T b[12] = {1, 2, 4, 3, 5, 9, 21, 6, 7, 8, 9, 10};
+    if constexpr (sizeof(T) == 4)
+        tenkLUBackSubst_mava_32f_3x3(&memory[0], 0, row, rows, b, row, &memory[9], row, 4);
+    else
+        tenkLUBackSubst_mava_64f_3x3(&memory[0], 0, row, rows, b, row, &memory[9], row, 4);
+    EXPECT_TRUE(same(results(), std::vector<T>{1, 2, 4, 3, 5, 2, 21, 6, 7, 8, 9, 10}));
+
+    // Rows 0 1 3 for all objects. Object 0 reads in row 3 what it writes: y = (1, 2, 3 - (1 + 4)), divided by
+    // itself. The others read (1, 2, 1): y[2] is 4 - (3 + 10), 2 - (4 + 2), 30 - (2 + 12).
+    memory = before;
+    const std::uint32_t oneOrder[3] = {0, 1, 3};
+    const T c[13] = {1, 2, 9, 3, 5, 9, 4, 1, 9, 2, 6, 9, 30};
+    if constexpr (sizeof(T) == 4)
+        tenkLUBackSubst_mva_32f_3x3(&memory[0], 0, row, oneOrder, c, row, &memory[9], row, 4);
+    else
+        tenkLUBackSubst_mva_64f_3x3(&memory[0], 0, row, oneOrder, c, row, &memory[9], row, 4);
+    EXPECT_TRUE(same(results(), std::vector<T>{1, 2, 1, 3, 5, -9, 4, 1, -4, 2, 6, 16}));
+}
+
+TYPED_TEST(LUBackSubst, ResultsThatShareMemoryAreWrittenOneAfterTheOther)
+{
+    // With the identity x = b. Each result begins at the second element of the one before, by a step and by
+    // lists: the first elements of all stay, and the whole of the last.
+    using T = TypeParam;
+    const T identity[9] = {1, 0, 0, 0, 1, 0, 0, 0, 1};
+    const std::uint32_t rows[24] = {0, 1, 2, 0, 1, 2, 0, 1, 2, 0, 1, 2, 0, 1, 2, 0, 1, 2, 0, 1, 2, 0, 1, 2};
+    T b[24], x[10];
+    const T* factors[8];
+    const T* src2[8];
+    T* dst[8];
+    for (std::size_t k = 0; k < 8; ++k) {
+        for (std::size_t i = 0; i < 3; ++i)
+            b[3 * k + i] = static_cast<T>(10 * (k + 1) + i);
+        factors[k] = identity;
+        src2[k] = &b[3 * k];
+        dst[k] = &x[k];
+    }
+    const std::vector<T> expected = {10, 20, 30, 40, 50, 60, 70, 80, 81, 82};
+    constexpr std::uint32_t row = 3 * sizeof(T), element = sizeof(T);
+    for (int member = 0; member < 3; ++member) {
+        std::fill(x, x + 10, T{0});
+        if constexpr (sizeof(T) == 4)
+            member == 0   ? tenkLUBackSubst_mva_32f_3x3(identity, 0, row, rows, b, row, x, element, 8)
+            : member == 1 ? tenkLUBackSubst_mava_32f_3x3(identity, 0, row, rows, b, row, x, element, 8)
+                          : tenkLUBackSubst_mava_32f_3x3_L(factors, 0, row, rows, src2, 0, dst, 0, 8);
+        else
+            member == 0   ? tenkLUBackSubst_mva_64f_3x3(identity, 0, row, rows, b, row, x, element, 8)
+            : member == 1 ? tenkLUBackSubst_mava_64f_3x3(identity, 0, row, rows, b, row, x, element, 8)
+                          : tenkLUBackSubst_mava_64f_3x3_L(factors, 0, row, rows, src2, 0, dst, 0, 8);
+        EXPECT_TRUE(same(std::vector<T>(x, x + 10), expected)) << member;
+    }
 }
 
 } // namespace

@@ -554,4 +554,59 @@ TYPED_TEST(QRBackSubst, ANullEntryOfAListFailsWhenItsObjectIsReached)
     });
 }
 
+TYPED_TEST(QRBackSubst, SumsOfTheTriangleStartAtPlusZero)
+{
+    // Vectors of zeros: e = (-0 + 0 + 0) (-2) = -0, so y[0] = -0 + -0 = -0; y[1] = 1 - 2; y[2] = 1. The sum
+    // of unknown 0 is +0 + -0 + -0 = +0, and -0 - +0 = -0; a sum of -0 alone would give +0.
+    using T = TypeParam;
+    const T zero = -T{0}, factor[9] = {1, zero, zero, 0, -1, 0, 0, 0, 1};
+    T b[12], x[12], buffer[3];
+    for (int e = 0; e < 12; ++e)
+        b[e] = e % 3 == 0 ? zero : T{1};
+    const std::vector<T> expected = {zero, 1, 1};
+    constexpr std::uint32_t row = 3 * sizeof(T), element = sizeof(T);
+    if constexpr (sizeof(T) == 4)
+        tenkQRBackSubst_mv_32f_3x3_S2(factor, row, element, buffer, b, element, x, element);
+    else
+        tenkQRBackSubst_mv_64f_3x3_S2(factor, row, element, buffer, b, element, x, element);
+    EXPECT_TRUE(same({x[0], x[1], x[2]}, expected));
+    if constexpr (sizeof(T) == 4)
+        tenkQRBackSubst_mva_32f_3x3(factor, 0, row, buffer, b, row, x, row, 4);
+    else
+        tenkQRBackSubst_mva_64f_3x3(factor, 0, row, buffer, b, row, x, row, 4);
+    for (int k = 0; k < 4; ++k)
+        EXPECT_TRUE(same({x[3 * k], x[3 * k + 1], x[3 * k + 2]}, expected)) << k;
+}
+
+TYPED_TEST(QRBackSubst, ResultsThatShareMemoryAreWrittenOneAfterTheOther)
+{
+    // The reflectors and R turn the sign of all but the last unknown twice: x = b. Each result begins at the
+    // second element of the one before, by a step and by lists: the first elements of all stay, and the whole
+    // of the last. (The lists have one factor in 32f; those of many in 64f read R elsewhere.)
+    using T = TypeParam;
+    const T factor[9] = {-1, 0, 0, 0, -1, 0, 0, 0, 1};
+    T b[24], x[10], buffer[3];
+    const T* src2[8];
+    T* dst[8];
+    for (std::size_t k = 0; k < 8; ++k) {
+        for (std::size_t i = 0; i < 3; ++i)
+            b[3 * k + i] = static_cast<T>(10 * (k + 1) + i);
+        src2[k] = &b[3 * k];
+        dst[k] = &x[k];
+    }
+    const std::vector<T> expected = {10, 20, 30, 40, 50, 60, 70, 80, 81, 82};
+    constexpr std::uint32_t row = 3 * sizeof(T), element = sizeof(T);
+    for (int member = 0; member < (sizeof(T) == 4 ? 3 : 2); ++member) {
+        std::fill(x, x + 10, T{0});
+        if constexpr (sizeof(T) == 4)
+            member == 0   ? tenkQRBackSubst_mva_32f_3x3(factor, 0, row, buffer, b, row, x, element, 8)
+            : member == 1 ? tenkQRBackSubst_mava_32f_3x3(factor, 0, row, buffer, b, row, x, element, 8)
+                          : tenkQRBackSubst_mva_32f_3x3_L(factor, 0, row, buffer, src2, 0, dst, 0, 8);
+        else
+            (member == 0 ? tenkQRBackSubst_mva_64f_3x3 : tenkQRBackSubst_mava_64f_3x3)(factor, 0, row, buffer,
+                                                                                       b, row, x, element, 8);
+        EXPECT_TRUE(same(std::vector<T>(x, x + 10), expected)) << member;
+    }
+}
+
 } // namespace

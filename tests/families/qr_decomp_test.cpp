@@ -687,4 +687,37 @@ TYPED_TEST(QRDecomp, ABatchMayBeWrittenOverTheSourcesOfLaterObjects)
     }
 }
 
+TYPED_TEST(QRDecomp, ResultsThatShareMemoryAreWrittenOneAfterTheOther)
+{
+    // A diagonal matrix changes the sign of all but the last element. Each result begins at the second row of
+    // the one before, by a step and by lists: the first rows of all stay, and the whole of the last.
+    using T = TypeParam;
+    constexpr std::size_t count = 16;
+    std::vector<T> matrices(count * 9, 0), memory, expected((count + 2) * 3, 0);
+    std::vector<const T*> src(count);
+    std::vector<T*> dst(count);
+    memory.resize(expected.size());
+    for (std::size_t k = 0; k < count; ++k) {
+        for (std::size_t i = 0; i < 3; ++i)
+            matrices[9 * k + 4 * i] = static_cast<T>(k + 1);
+        expected[3 * k] = -static_cast<T>(k + 1);
+        src[k] = &matrices[9 * k];
+        dst[k] = &memory[3 * k];
+    }
+    expected[3 * count + 1] = -static_cast<T>(count);
+    expected[3 * (count + 1) + 2] = static_cast<T>(count);
+    constexpr std::uint32_t row = 3 * sizeof(T), matrix = 9 * sizeof(T);
+    for (bool list : {false, true}) {
+        std::fill(memory.begin(), memory.end(), T{7});
+        T buffer[3];
+        if constexpr (sizeof(T) == 4)
+            list ? tenkQRDecomp_ma_32f_3x3_L(src.data(), 0, row, buffer, dst.data(), 0, row, count)
+                 : tenkQRDecomp_ma_32f_3x3(src[0], matrix, row, buffer, dst[0], row, row, count);
+        else
+            list ? tenkQRDecomp_ma_64f_3x3_L(src.data(), 0, row, buffer, dst.data(), 0, row, count)
+                 : tenkQRDecomp_ma_64f_3x3(src[0], matrix, row, buffer, dst[0], row, row, count);
+        EXPECT_EQ(memory, expected) << list;
+    }
+}
+
 } // namespace
