@@ -156,10 +156,22 @@ struct Side
     TENK_INLINE bool eachApart() const
     {
         bool all = true;
-        if constexpr (O::list) // otherwise a matter of the step
+        if constexpr (O::list) { // otherwise a matter of the step
+            if (eachBehindTheLast())
+                return true;
             each<size>([&](auto g) TENK_LAMBDA {
                 each<g>([&](auto earlier) TENK_LAMBDA { all &= apart(bytesOf(earlier), bytesOf(g)); });
             });
+        }
+        return all;
+    }
+    // Steps up to `nearby` and their objects are too short, all together, to come round to the first.
+    TENK_INLINE bool eachBehindTheLast() const
+    {
+        bool all = true;
+        each<size - 1>([&](auto g) TENK_LAMBDA {
+            all &= object[g + 1].start - object[g].start - span.length <= Address{span.nearby};
+        });
         return all;
     }
 

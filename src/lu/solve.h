@@ -100,39 +100,54 @@ consteval bool luSolvesSideBySide(Member m)
     return m.batch() && !m.general() && isDense(m.layout);
 }
 
-template <typename T, unsigned n>
-TENK_INLINE void luSolve(const Vector<T> (&factor)[n][n], Vector<T> (&x)[n])
+// Groups that take turns: with one factor almost every operation waits for the one before. With a factor for
+// each object, bringing the elements side by side is work enough meanwhile, and so are the tests of a list.
+consteval unsigned luSolveTurns(Member m)
 {
-    each<n - 1>([&](auto before) TENK_LAMBDA {
-        constexpr std::size_t i = before + 1;
-        Vector<T> sum = broadcast<T>(0);
-        each<i>([&](auto j) TENK_LAMBDA { sum = sum + factor[i][j] * x[j]; });
-        x[i] = x[i] - sum;
-    });
-    x[n - 1] = x[n - 1] / factor[n - 1][n - 1];
+    return m.type == Type::f32 && m.layout == Layout::Standard && !m.operand[0].array ? 2 : 1;
+}
+
+template <typename T, unsigned n, unsigned turns>
+TENK_INLINE void luSolve(const Vector<T> (&factor)[n][n], Vector<T> (&x)[turns][n])
+{
+    // The difference of unknown i and its sum from column `first` on.
+    const auto subtract = [&](auto i, auto first, auto columns) TENK_LAMBDA {
+        Vector<T> sum[turns];
+        each<turns>([&](auto t) TENK_LAMBDA { sum[t] = broadcast<T>(0); });
+        each<columns>([&](auto c) TENK_LAMBDA {
+            constexpr std::size_t j = first + c;
+            each<turns>([&](auto t) TENK_LAMBDA { sum[t] = sum[t] + factor[i][j] * x[t][j]; });
+        });
+        each<turns>([&](auto t) TENK_LAMBDA { x[t][i] = x[t][i] - sum[t]; });
+    };
+    const auto divide = [&](auto i) TENK_LAMBDA {
+        each<turns>([&](auto t) TENK_LAMBDA { x[t][i] = x[t][i] / factor[i][i]; });
+    };
+    each<n - 1>([&](auto before) TENK_LAMBDA { subtract(index<before + 1>, index<0>, index<before + 1>); });
+    divide(index<n - 1>);
     each<n - 1>([&](auto after) TENK_LAMBDA {
         constexpr std::size_t i = n - 2 - after;
-        Vector<T> sum = broadcast<T>(0);
-        each<n - 1 - i>([&](auto j) TENK_LAMBDA { sum = sum + factor[i][i + 1 + j] * x[i + 1 + j]; });
-        x[i] = (x[i] - sum) / factor[i][i];
+        subtract(index<i>, index<i + 1>, index<n - 1 - i>);
+        divide(index<i>);
     });
 }
 
-// The batch a group at a time.
-template <Member m>
+// The batch so many groups at a time.
+template <Member m, unsigned turns>
 struct LUSolveGroups
 {
     using T = Element<m>;
-    static constexpr unsigned n = m.size;
+    static constexpr unsigned n = m.size, objects = turns * group<T>;
     static constexpr bool oneFactor = !m.operand[0].array;
+    static_assert(oneFactor || turns == 1);
 
     const Source<m, 0>& src1;
     const Source<m, 1>& src2;
     const Destination<m>& dst;
     Address rowIndex;
-    Span<Source<m, 0>, n, n> matrices{src1, false};
-    Span<Source<m, 1>, 1, n> rightSides{src2, false};
-    Span<Destination<m>, 1, n> results{dst, true};
+    Span<Source<m, 0>, n, n, objects> matrices{src1, false};
+    Span<Source<m, 1>, 1, n, objects> rightSides{src2, false};
+    Span<Destination<m>, 1, n, objects> results{dst, true};
     Vector<T> factor[n][n];  // in the order of the positions
     std::size_t position[n]; // those of one factor
     bool apart = false;      // throughout the batch
@@ -164,51 +179,53 @@ struct LUSolveGroups
     // The group that begins with object k. False, with nothing written, if something could tell.
     TENK_INLINE bool solve(std::size_t k)
     {
-        if (!noNullObject<group<T>>(k, src1, src2, dst))
+        if (!noNullObject<objects>(k, src1, src2, dst))
             return false;
-        const Side<Source<m, 0>, n, n> a(src1, matrices, k);
-        const Side<Source<m, 1>, 1, n> b(src2, rightSides, k);
-        const Side<Destination<m>, 1, n> to(dst, results, k);
+        const Side<Source<m, 0>, n, n, objects> a(src1, matrices, k);
+        const Side<Source<m, 1>, 1, n, objects> b(src2, rightSides, k);
+        const Side<Destination<m>, 1, n, objects> to(dst, results, k);
         if (!to.eachApart() || (!apart && (!mayReadFirst(a, to, false) || !mayReadFirst(b, to, false))))
             return false;
-        Vector<T> x[n];
+        Vector<T> x[turns][n];
         if constexpr (oneFactor) {
             if (!loaded && !loadOneFactor())
                 return false;
             loaded = true;
-            Vector<T> rightSide[n];
-            loadSideBySide<n>(b.rowOfEach(0), rightSide);
-            each<n>([&](auto i) TENK_LAMBDA { x[i] = rightSide[position[i]]; });
+            each<turns>([&](auto t) TENK_LAMBDA {
+                Vector<T> rightSide[n];
+                loadSideBySide<n>(b.rowOfEach(0, t * group<T>), rightSide);
+                each<n>([&](auto i) TENK_LAMBDA { x[t][i] = rightSide[position[i]]; });
+            });
         } else {
             const Address first = rowIndex + k * n * sizeof(std::uint32_t);
-            if (rowsInOrder<n, n * group<T>>(first)) {
+            if (rowsInOrder<n, n * objects>(first)) {
                 loadMatrices(a, factor);
-                loadSideBySide<n>(b.rowOfEach(0), x);
-            } else if (rowsInRange<n, n * group<T>>(first)) {
+                loadSideBySide<n>(b.rowOfEach(0), x[0]);
+            } else if (rowsInRange<n, n * objects>(first)) {
                 each<n>([&](auto i) TENK_LAMBDA {
                     const auto row = [&](std::size_t g) TENK_LAMBDA { return rowAt(first, g * n + i); };
                     const auto ofFactor = [&](std::size_t g) TENK_LAMBDA { return a.object[g].row(row(g)); };
                     const auto ofRightSide = [&](std::size_t g)
                                                  TENK_LAMBDA { return b.object[g].at(0, row(g)); };
                     loadSideBySide<n>(Addresses<T>::make(ofFactor), factor[i]);
-                    x[i] = gather(Addresses<T>::make(ofRightSide));
+                    x[0][i] = gather(Addresses<T>::make(ofRightSide));
                 });
             } else {
                 return false;
             }
         }
-        luSolve<T, n>(factor, x);
-        storeSideBySide<n>(to.rowOfEach(0), x);
+        luSolve<T>(factor, x);
+        each<turns>([&](auto t) TENK_LAMBDA { storeSideBySide<n>(to.rowOfEach(0, t * group<T>), x[t]); });
         return true;
     }
 };
 
-template <Member m>
+template <Member m, unsigned turns>
 TENK_INLINE auto luSolveGroups(const Source<m, 0>& src1, Address rowIndex, const Source<m, 1>& src2,
                                const Destination<m>& dst, std::size_t count)
 {
     if constexpr (luSolvesSideBySide(m))
-        return LUSolveGroups<m>(src1, rowIndex, src2, dst, count);
+        return LUSolveGroups<m, turns>(src1, rowIndex, src2, dst, count);
     else
         return Nothing{};
 }
@@ -217,7 +234,6 @@ template <Member m>
 TENK_INLINE tenkStatus luBackSubst(Source<m, 0> src1, const std::uint32_t* rowIndex, Source<m, 1> src2,
                                    Destination<m> dst, Size<m> order, Count<m> count)
 {
-    using T = Element<m>;
     if (anyNull(src1, rowIndex, src2, dst))
         return tenkNullPointerError;
     if (anyZero(order))
@@ -226,18 +242,24 @@ TENK_INLINE tenkStatus luBackSubst(Source<m, 0> src1, const std::uint32_t* rowIn
         anyNullEntry(dst, order))
         return tenkNullPointerError;
 
-    const auto index = reinterpret_cast<Address>(rowIndex);
-    [[maybe_unused]] auto groups = luSolveGroups<m>(src1, index, src2, dst, count);
+    const auto rows = reinterpret_cast<Address>(rowIndex);
+    [[maybe_unused]] auto inTurns = luSolveGroups<m, luSolveTurns(m)>(src1, rows, src2, dst, count);
+    [[maybe_unused]] auto alone = luSolveGroups<m, 1>(src1, rows, src2, dst, count);
     for (std::size_t k = 0; k < count; ++k) {
         if constexpr (luSolvesSideBySide(m)) {
-            while (groups.fit() && count - k >= group<T> && groups.solve(k))
-                k += group<T>;
+            const auto all = [&](auto& groups) TENK_LAMBDA {
+                while (groups.fit() && count - k >= groups.objects && groups.solve(k))
+                    k += groups.objects;
+            };
+            if constexpr (luSolveTurns(m) > 1)
+                all(inTurns);
+            all(alone);
             if (k == count)
                 break;
         }
         if (anyNullObject(k, src1, src2, dst))
             return tenkNullPointerError;
-        const Address indexOfObject = m.operand[0].array ? index + k * order * sizeof(std::uint32_t) : index;
+        const Address indexOfObject = m.operand[0].array ? rows + k * order * sizeof(std::uint32_t) : rows;
         luSolve<m>(luFactor<m>(src1, k, order), indexOfObject, src2.object(k, order), dst.object(k, order),
                    order);
     }

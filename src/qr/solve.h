@@ -44,14 +44,16 @@ TENK_INLINE auto reflectorsOf(const Source<m, 0>& src1, std::size_t k, std::size
         return factor;
 }
 
+// Where R is.
 template <Member m>
-TENK_INLINE auto triangleOf(const Source<m, 0>& src1, std::size_t k, std::size_t width)
+TENK_INLINE Source<m, 0> trianglesOf(Source<m, 0> src1)
 {
-    const auto factor = reflectorsOf<m>(src1, k, width);
-    if constexpr (stepsByOneByte(m))
-        return DenseView<Element<m>>{factor.start - static_cast<Address>(factor.rowStep) + 1, 1};
-    else
-        return factor;
+    if constexpr (stepsByOneByte(m)) {
+        const Address shift = static_cast<Address>(src1.shift) - static_cast<Address>(src1.stride1) + 1;
+        src1.shift = static_cast<Displacement>(shift);
+        src1.stride1 = 1;
+    }
+    return src1;
 }
 
 // One object. With fewer rows than columns it works on behind the ends of buffer and factor.
@@ -99,7 +101,7 @@ TENK_INLINE void qrSolve(const V& v, const R& r, Address buffer, const B& b, con
 
 consteval bool qrSolvesSideBySide(Member m)
 {
-    return m.batch() && !m.general() && isDense(m.layout) && !stepsByOneByte(m);
+    return m.batch() && !m.general() && isDense(m.layout);
 }
 
 // The batch a group at a time.
@@ -114,7 +116,8 @@ struct QRSolveGroups
     const Source<m, 1>& src2;
     const Destination<m>& dst;
     Address buffer;
-    Span<Source<m, 0>, n, n> matrices{src1, false};
+    const Source<m, 0> triangles = trianglesOf<m>(src1);
+    Span<Source<m, 0>, n, n> matrices{src1, false}, ofTriangles{triangles, false};
     Span<Source<m, 1>, 1, n> rightSides{src2, false};
     Span<Destination<m>, 1, n> results{dst, true};
     Vector<T> factor[n][n];
@@ -149,6 +152,15 @@ struct QRSolveGroups
                 lengthSquared = lengthSquared + component * component;
             });
             coefficient[k] = broadcast<T>(-2) / lengthSquared;
+        });
+    }
+
+    TENK_INLINE void loadTriangle(const Side<Source<m, 0>, n, n>& r)
+    {
+        each<n>([&](auto i) TENK_LAMBDA {
+            Vector<T> row[n];
+            loadSideBySide<n>(r.rowOfEach(i), row);
+            each<n - i>([&](auto j) TENK_LAMBDA { factor[i][i + j] = row[i + j]; });
         });
     }
 
@@ -189,8 +201,15 @@ struct QRSolveGroups
         const Side<Destination<m>, 1, n> x(dst, results, k);
         if (!x.eachApart() || (!apart && (!mayReadFirst(a, x, false) || !mayReadFirst(b, x, true))))
             return false;
-        if (!loaded)
+        if constexpr (stepsByOneByte(m)) {
+            const Side<Source<m, 0>, n, n> r(triangles, ofTriangles, k);
+            if (!mayReadFirst(r, x, false))
+                return false;
             loadFactor(a);
+            loadTriangle(r);
+        } else if (!loaded) {
+            loadFactor(a);
+        }
         loaded = oneFactor;
         Vector<T> y[n];
         loadSideBySide<n>(b.rowOfEach(0), y);
@@ -224,6 +243,7 @@ TENK_INLINE tenkStatus qrBackSubst(Source<m, 0> src1, Element<m>* buffer, Source
         return tenkNullPointerError;
 
     const auto scratch = reinterpret_cast<Address>(buffer);
+    const Source<m, 0> triangles = trianglesOf<m>(src1);
     [[maybe_unused]] auto groups = qrSolveGroups<m>(src1, scratch, src2, dst, count);
     for (std::size_t k = 0; k < count; ++k) {
         if constexpr (qrSolvesSideBySide(m)) {
@@ -234,7 +254,7 @@ TENK_INLINE tenkStatus qrBackSubst(Source<m, 0> src1, Element<m>* buffer, Source
         }
         if (anyNullObject(k, src1, src2, dst))
             return tenkNullPointerError;
-        qrSolve<m>(reflectorsOf<m>(src1, k, width), triangleOf<m>(src1, k, width), scratch,
+        qrSolve<m>(reflectorsOf<m>(src1, k, width), reflectorsOf<m>(triangles, k, width), scratch,
                    src2.object(k, height), dst.object(k, width), width, height);
     }
     return tenkOk;

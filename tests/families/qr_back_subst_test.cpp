@@ -312,6 +312,33 @@ TEST(QRBackSubstAddresses, TheTriangleOfTheMavaListMembersOf64fBeginsARowAboveAn
     EXPECT_EQ(x, 1.5);
 }
 
+TEST(QRBackSubstAddresses, AResultInATriangleThatIsReadAboveALaterMatrixIsReadAsWritten)
+{
+    // Rows are 64 bytes apart, so R of a matrix is read in the 26 bytes from 63 before it on. That of object
+    // 0 is 0x3F.., some small number, and b = 0: the solution is 0. It is written over the first 24 bytes of
+    // R of object 1, whose last two are 0. So R is 0 there, y = (-1, -1, 1) and x[2] = 1 / 0; from what stood
+    // there before, x[2] would be finite.
+    alignas(8) unsigned char memory[1024];
+    std::memset(memory, 0x3F, sizeof memory);
+    const auto at = [&](std::size_t byte) { return reinterpret_cast<double*>(memory + byte); };
+    constexpr std::size_t first = 64, second = 512;
+    for (std::size_t start : {first, second})
+        for (std::size_t i = 0; i < 3; ++i)
+            std::fill_n(at(start + i * 64), 3, 0.0);
+    memory[second - 63 + 24] = memory[second - 63 + 25] = 0;
+    const double b[6] = {0, 0, 0, 1, 1, 1};
+    const double *const src1[2] = {at(first), at(second)}, *const src2[2] = {b, b + 3};
+    double* const dst[2] = {at(second - 64), at(896)};
+    double buffer[3];
+    ASSERT_EQ(tenkQRBackSubst_mava_64f_3x3_L(src1, 0, 64, buffer, src2, 0, dst, 1, 2), tenkOk);
+    double x[3];
+    std::memcpy(x, memory + second - 63, sizeof x);
+    EXPECT_TRUE(same({x[0], x[1], x[2]}, std::vector<double>{0, 0, 0}));
+    std::memcpy(x, memory + 897, sizeof x);
+    EXPECT_EQ(x[2], std::numeric_limits<double>::infinity());
+    EXPECT_TRUE(std::isnan(x[1]) && std::isnan(x[0])); // 0 x infinity in the sums
+}
+
 TEST(QRBackSubstAddresses, TheMvaListMembersOf64fStepByFourBytesInBothStages)
 {
     // Two columns, three rows, 16 bytes between rows: element (i, 1) overlaps the second half of (i, 0). All
