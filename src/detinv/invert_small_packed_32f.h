@@ -55,31 +55,44 @@ TENK_INLINE Quad exchangeLanes(Quad v)
     return reorder<0 ^ bits, 1 ^ bits, 2 ^ bits, 3 ^ bits>(v);
 }
 
-// The signed cofactors of each row, each the sum of six products of three elements. In every lane j, with [b]
-// for lane j ^ b, those of row 0 are
-//     r1[1] (r2[2] r3[3] - r2[3] r3[2]) + r3[1] (r1[2] r2[3] - r1[3] r2[2]) - r2[1] (r1[2] r3[3] - r1[3]
-//     r3[2])
-// with the products multiplied out.
-TENK_INLINE void cofactorsOf(const Quad (&r)[4], Quad (&cofactors)[4])
+// The signed cofactors of each row, each the sum of six products of three elements, in lanes whose neighbours
+// are exchanged. In lane j, with [b] for lane j ^ b, those of row 0, which belong to column j ^ 1, are
+//     r1 (r2[3] r3[2] - r2[2] r3[3]) + r3 (r1[3] r2[2] - r1[2] r2[3]) - r2 (r1[3] r3[2] - r1[2] r3[3])
+// with the products multiplied out. Each pair of rows is done with before the next one is begun, which takes
+// the fewest registers. Two products that differ by an exchange of rows are subtracted before anything is
+// added, so those of a third row are 0 if two rows are equal.
+TENK_INLINE void cofactorsOf(const Quad (&r)[4], Quad (&c)[4])
 {
-    Quad next[4]; // r[1]
-    each<4>([&](auto i) TENK_LAMBDA { next[i] = exchangeLanes<1>(r[i]); });
     struct Products
     {
-        Quad plus, minus; // a[2] b[3] and a[3] b[2]
+        Quad plus, minus; // a[3] b[2] and a[2] b[3]
     };
     const auto products = [&](unsigned a, unsigned b) TENK_LAMBDA {
-        const Quad both = r[a] * next[b];
-        return Products{exchangeLanes<2>(both), exchangeLanes<3>(both)};
+        const Quad plus = exchangeLanes<3>(r[a]) * exchangeLanes<2>(r[b]);
+        return Products{plus, exchangeLanes<1>(plus)};
     };
-    const Products p01 = products(0, 1), p02 = products(0, 2), p03 = products(0, 3);
-    const Products p12 = products(1, 2), p13 = products(1, 3), p23 = products(2, 3);
     const auto triples = [&](unsigned i, const Products& p)
-                             TENK_LAMBDA { return next[i] * p.plus - next[i] * p.minus; };
-    cofactors[0] = (triples(1, p23) + triples(3, p12)) - triples(2, p13);
-    cofactors[1] = triples(2, p03) - (triples(0, p23) + triples(3, p02));
-    cofactors[2] = (triples(0, p13) + triples(3, p01)) - triples(1, p03);
-    cofactors[3] = triples(1, p02) - (triples(0, p12) + triples(2, p01));
+                             TENK_LAMBDA { return r[i] * p.plus - r[i] * p.minus; };
+    const auto add = [&](unsigned to, Quad v) TENK_LAMBDA { c[to] = inRegister(c[to] + v); };
+    const auto subtract = [&](unsigned from, Quad v) TENK_LAMBDA { c[from] = inRegister(c[from] - v); };
+    const Products p01 = products(0, 1);
+    c[2] = inRegister(triples(3, p01));
+    c[3] = inRegister(triples(2, p01));
+    const Products p02 = products(0, 2);
+    c[1] = inRegister(triples(3, p02));
+    c[3] = inRegister(triples(1, p02) - c[3]);
+    const Products p03 = products(0, 3);
+    c[1] = inRegister(triples(2, p03) - c[1]);
+    subtract(2, triples(1, p03));
+    const Products p12 = products(1, 2);
+    c[0] = inRegister(triples(3, p12));
+    subtract(3, triples(0, p12));
+    const Products p13 = products(1, 3);
+    subtract(0, triples(2, p13));
+    add(2, triples(0, p13));
+    const Products p23 = products(2, 3);
+    add(0, triples(1, p23));
+    subtract(1, triples(0, p23));
 }
 
 TENK_INLINE void transpose(const Quad (&from)[4], Quad (&to)[4])
@@ -102,6 +115,7 @@ TENK_INLINE bool invert4(const Quad (&r)[4], Block4& inverse)
 {
     Quad cofactors[4];
     cofactorsOf(r, cofactors);
+    each<4>([&](auto i) TENK_LAMBDA { cofactors[i] = exchangeLanes<1>(cofactors[i]); });
     const auto product = [&](unsigned i) TENK_LAMBDA { return r[i][0] * cofactors[i][0]; };
     const float determinant = (product(3) + product(1)) + (product(2) + product(0));
     if (determinant == 0)
@@ -292,20 +306,20 @@ struct Packed<float, 4>
 {
     TENK_INLINE static bool invert(const DenseView<float>& from, const DenseView<float>& to)
     {
-        Quad rows[4], cofactors[4], adjugate[4];
+        Quad rows[4], cofactors[4], adjugate[4]; // of the adjugate row 1, 0, 3, 2
         each<4>([&](auto i) TENK_LAMBDA { rows[i] = loadVector<float>(from.row(i)); });
         cofactorsOf(rows, cofactors);
         transpose(cofactors, adjugate);
         // The determinant in every lane, with the products of column 0 in one vector.
         const Quad column0 =
             shuffle<0, 1, 4, 5>(shuffle<0, 4, 1, 5>(rows[0], rows[1]), shuffle<0, 4, 1, 5>(rows[2], rows[3]));
-        const Quad products = column0 * adjugate[0];
+        const Quad products = column0 * adjugate[1];
         const Quad sums = products + exchangeLanes<2>(products);
         const Quad determinant = exchangeLanes<1>(sums) + sums;
         if (determinant[0] == 0)
             return false;
         const Quad scale = refined(determinant);
-        each<4>([&](auto i) TENK_LAMBDA { storeVector<float>(to.row(i), adjugate[i] * scale); });
+        each<4>([&](auto i) TENK_LAMBDA { storeVector<float>(to.row(i ^ 1), adjugate[i] * scale); });
         return true;
     }
 };

@@ -69,45 +69,81 @@ TENK_INLINE bool invertBlock(Block<double, 3>& a)
     return true;
 }
 
-// Two rows of the adjugate of order 4, from 2 v on: the cofactors in vector v of each row, which take
-// products of two elements from the other vectors alone. Six products of three elements to a cofactor, as in
-// 32f; each pair of rows is done with before the next one is begun, which takes the fewest registers.
-template <std::size_t v>
-TENK_INLINE void adjugateRows(const Block<double, 4>& a, Block<double, 4>& adjugate)
+// With eight vector registers, rows of order 4 are read again for each pair of rows: kept, they would go to
+// the stack and come back from there.
+TENK_INLINE void readAgainIfRegistersAreFew()
 {
-    Pair next[4];
-    each<4>([&](auto i) TENK_LAMBDA { next[i] = exchangePair(a.row[i].vector[v]); });
+    if constexpr (sizeof(void*) == 4)
+        asm volatile("" ::: "memory");
+}
+
+// Two rows of the adjugate of order 4, from 2 v on: the cofactors in vector v of each row, which take
+// products of two elements from the other vectors alone; rows(i, v) is vector v of row i. Six products of
+// three elements to a cofactor, as in 32f, its lanes exchanged as there, and each pair of rows done with
+// before the next one is begun.
+template <unsigned v, typename Rows>
+TENK_INLINE void adjugateRows(const Rows& rows, Block<double, 4>& adjugate)
+{
     struct Products
     {
         Pair plus, minus;
     };
-    const auto products = [&](unsigned i, unsigned j) TENK_LAMBDA {
-        const Pair both = a.row[i].vector[1 - v] * exchangePair(a.row[j].vector[1 - v]);
-        return Products{both, exchangePair(both)};
+    const auto exchanged = [&](unsigned i) TENK_LAMBDA { return exchangePair(rows(i, 1 - v)); };
+    const auto products = [&](unsigned i, Pair next) TENK_LAMBDA {
+        readAgainIfRegistersAreFew();
+        const Pair minus = rows(i, 1 - v) * next;
+        return Products{exchangePair(minus), minus};
     };
-    const auto triples = [&](unsigned i, const Products& p)
-                             TENK_LAMBDA { return next[i] * p.plus - next[i] * p.minus; };
+    const auto triples = [&](unsigned i, const Products& p) TENK_LAMBDA {
+        const Pair r = rows(i, v);
+        return r * p.plus - r * p.minus;
+    };
     Pair c[4];
-    const Products p23 = products(2, 3);
-    c[0] = triples(1, p23);
-    c[1] = triples(0, p23);
-    const Products p12 = products(1, 2);
-    c[0] = c[0] + triples(3, p12);
-    c[3] = triples(0, p12);
-    const Products p13 = products(1, 3);
-    c[0] = c[0] - triples(2, p13);
-    c[2] = triples(0, p13);
-    const Products p01 = products(0, 1);
-    c[2] = c[2] + triples(3, p01);
-    c[3] = c[3] + triples(2, p01);
-    const Products p02 = products(0, 2);
-    c[1] = c[1] + triples(3, p02);
-    c[3] = triples(1, p02) - c[3];
-    const Products p03 = products(0, 3);
-    c[1] = triples(2, p03) - c[1];
-    c[2] = c[2] - triples(1, p03);
-    adjugate.row[2 * v] = {{shuffle<0, 2>(c[0], c[1]), shuffle<0, 2>(c[2], c[3])}, {}};
-    adjugate.row[2 * v + 1] = {{shuffle<1, 3>(c[0], c[1]), shuffle<1, 3>(c[2], c[3])}, {}};
+    const auto set = [&](unsigned i, Pair x) TENK_LAMBDA { c[i] = inRegister(x); };
+    const Pair next1 = exchanged(1);
+    const Products p01 = products(0, next1);
+    set(2, triples(3, p01));
+    set(3, triples(2, p01));
+    const Pair next2 = exchanged(2);
+    const Products p02 = products(0, next2);
+    set(1, triples(3, p02));
+    set(3, triples(1, p02) - c[3]);
+    const Products p12 = products(1, next2);
+    set(0, triples(3, p12));
+    set(3, c[3] - triples(0, p12));
+    const Pair next3 = exchanged(3);
+    const Products p03 = products(0, next3);
+    set(1, triples(2, p03) - c[1]);
+    set(2, c[2] - triples(1, p03));
+    const Products p13 = products(1, next3);
+    set(0, c[0] - triples(2, p13));
+    set(2, c[2] + triples(0, p13));
+    const Products p23 = products(2, next3);
+    set(0, c[0] + triples(1, p23));
+    set(1, c[1] - triples(0, p23));
+    adjugate.row[2 * v] = {{inRegister(shuffle<1, 3>(c[0], c[1])), inRegister(shuffle<1, 3>(c[2], c[3]))},
+                           {}};
+    adjugate.row[2 * v + 1] = {{inRegister(shuffle<0, 2>(c[0], c[1])), inRegister(shuffle<0, 2>(c[2], c[3]))},
+                               {}};
+}
+
+template <typename Rows>
+TENK_INLINE bool invertRows(const Rows& rows, Block<double, 4>& inverse)
+{
+    Block<double, 4> adjugate;
+    adjugateRows<0>(rows, adjugate);
+    readAgainIfRegistersAreFew();
+    // (a00 C00 + a20 C20) + (a10 C10 + a30 C30), in both lanes.
+    const Pair terms = shuffle<0, 2>(rows(0, 0), rows(1, 0)) * adjugate.row[0].vector[0] +
+                       shuffle<0, 2>(rows(2, 0), rows(3, 0)) * adjugate.row[0].vector[1];
+    const Pair determinant = terms + exchangePair(terms);
+    if (determinant[0] == 0)
+        return false;
+    // Divided while the other rows are on their way.
+    const Pair reciprocal = broadcast(1.0) / determinant;
+    adjugateRows<1>(rows, adjugate);
+    inverse = Block<double, 4>::map([&](Pair x) TENK_LAMBDA { return reciprocal * x; }, adjugate);
+    return true;
 }
 
 TENK_INLINE bool invertBlock(Block<double, 4>& a)
@@ -115,20 +151,7 @@ TENK_INLINE bool invertBlock(Block<double, 4>& a)
     each<4>([&](auto i) TENK_LAMBDA {
         each<2>([&](auto v) TENK_LAMBDA { a.row[i].vector[v] = inRegister(a.row[i].vector[v]); });
     });
-    Block<double, 4> adjugate;
-    adjugateRows<0>(a, adjugate);
-    // (a00 C00 + a20 C20) + (a10 C10 + a30 C30), in both lanes.
-    const auto& r = a.row;
-    const Pair terms = shuffle<0, 2>(r[0].vector[0], r[1].vector[0]) * adjugate.row[0].vector[0] +
-                       shuffle<0, 2>(r[2].vector[0], r[3].vector[0]) * adjugate.row[0].vector[1];
-    const Pair determinant = terms + exchangePair(terms);
-    if (determinant[0] == 0)
-        return false;
-    // Divided while the other rows are on their way.
-    const Pair reciprocal = inRegister(broadcast(1.0) / determinant);
-    adjugateRows<1>(a, adjugate);
-    a = Block<double, 4>::map([&](Pair x) TENK_LAMBDA { return reciprocal * x; }, adjugate);
-    return true;
+    return invertRows([&](unsigned i, unsigned v) TENK_LAMBDA { return a.row[i].vector[v]; }, a);
 }
 
 // ---------------------------------------------------------------------------------------------------------------
@@ -238,10 +261,12 @@ struct Packed<double, 4>
 {
     TENK_INLINE static bool invert(const DenseView<double>& from, const DenseView<double>& to)
     {
-        auto a = Block<double, 4>::load(from);
-        if (!invertBlock(a))
+        const auto rows = [&](unsigned i, unsigned v)
+                              TENK_LAMBDA { return inRegister(loadVector<double>(from.at(i, 2 * v))); };
+        Block<double, 4> inverse;
+        if (!invertRows(rows, inverse))
             return false;
-        a.store(to);
+        inverse.store(to);
         return true;
     }
 };
