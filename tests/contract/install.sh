@@ -20,7 +20,7 @@ gcc -std=c99 -Wall -Wextra -pedantic -Werror "$@" "$here/user.c" $(pkg-config --
 "$work/c-user"
 
 flags="$*"
-"$cmake" -S "$here/user" -B "$work/build" -DCMAKE_PREFIX_PATH="$work/prefix" -DCMAKE_CXX_FLAGS="$flags" \
+"$cmake" -G Ninja -S "$here/user" -B "$work/build" -DCMAKE_PREFIX_PATH="$work/prefix" -DCMAKE_CXX_FLAGS="$flags" \
     >"$work/log" || { cat "$work/log"; exit 1; }
 "$cmake" --build "$work/build" >"$work/log" || { cat "$work/log"; exit 1; }
 "$work/build/cpp-user"
