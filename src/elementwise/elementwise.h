@@ -126,9 +126,9 @@ TENK_INLINE tenkStatus plainObjects(F f, Destination<m> dst, std::size_t width, 
 // Row by row
 // ---------------------------------------------------------------------------------------------------------------
 
-// The rows of all these operands are adjacent.
+// No operand has a gap between rows of this width.
 template <typename... O>
-TENK_INLINE bool gapless(std::size_t width, const O&... operands)
+TENK_INLINE bool rowsFollow(std::size_t width, const O&... operands)
 {
     using T = std::common_type_t<typename O::Value...>;
     return ((static_cast<Address>(operands.stride1) == width * sizeof(T)) && ...);
@@ -138,7 +138,7 @@ template <Member m, typename F, typename... S>
 TENK_INLINE tenkStatus rowObjects(F f, Destination<m> dst, std::size_t width, std::size_t height,
                                   std::size_t count, const S&... src)
 {
-    if (m.destination().kind == 'm' && gapless(width, dst, src...)) {
+    if (m.destination().kind == 'm' && rowsFollow(width, dst, src...)) {
         width *= height;
         height = 1;
     }
@@ -157,16 +157,6 @@ TENK_INLINE tenkStatus rowObjects(F f, Destination<m> dst, std::size_t width, st
 // ---------------------------------------------------------------------------------------------------------------
 // In vectors
 // ---------------------------------------------------------------------------------------------------------------
-
-// Rows of n elements without gaps between them. `atVectors`: they begin at multiples of 16.
-template <typename T, unsigned n, bool atVectors = false>
-struct GaplessView
-{
-    static constexpr bool aligned = atVectors;
-    Address start;
-
-    TENK_INLINE Address row(std::size_t i) const { return start + i * n * sizeof(T); }
-};
 
 // On i386 a loop finds its shifts and counts in memory.
 inline constexpr bool hasFewRegisters = sizeof(Address) == 4;
@@ -483,7 +473,8 @@ TENK_INLINE tenkStatus elementwise(F f, Destination<m> dst, Size<m> width, H hei
             return gaplessObjects<m>(f, dst, count, src...);
         } else if constexpr (m.batch()) {
             // A transposed source that is kept is turned beforehand, gaps or not.
-            if (gapless(m.size, dst) && (((isKept<m, S> && S::transposed) || gapless(m.size, src)) && ...))
+            if (rowsFollow(m.size, dst) &&
+                (((isKept<m, S> && S::transposed) || rowsFollow(m.size, src)) && ...))
                 return gaplessObjects<m>(f, dst, count, src...);
         }
         return packedObjects<m, m.size, m.size, false>(f, dst, count, src...);

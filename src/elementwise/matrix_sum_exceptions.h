@@ -82,7 +82,7 @@ template <Member m>
 TENK_INLINE tenkStatus sumAhead(const Source<m>& src1, const Source<m, 1>& src2, const Destination<m>& dst,
                                 std::size_t count)
 {
-    if (gapless(m.size, src1, src2, dst))
+    if (rowsFollow(m.size, src1, src2, dst))
         return sumAheadIn<m, 1, m.size * m.size>(src1, src2, dst, count);
     return sumAheadIn<m, m.size, m.size>(src1, src2, dst, count);
 }
@@ -243,7 +243,7 @@ TENK_INLINE tenkStatus sumByAlignment(const Source<m>& src1, const Source<m, 1>&
     const auto& single = pickSingle();
 
     // Rows without gaps are never aligned.
-    if (gapless(n, src1, src2, dst))
+    if (rowsFollow(n, src1, src2, dst))
         return gaplessObjects<m>(sum<m>(), dst, count, src1, src2);
 
     const auto stored = single.object(0, n);

@@ -71,6 +71,17 @@ struct DenseView
     TENK_INLINE Address at(std::size_t i, std::size_t j) const { return row(i) + j * sizeof(T); }
 };
 
+// Rows of n adjacent elements without gaps between them: the compiler knows all distances. `atVectors`: they
+// begin at multiples of 16.
+template <typename T, unsigned n, bool atVectors = false>
+struct GaplessView
+{
+    static constexpr bool aligned = atVectors;
+    Address start;
+
+    TENK_INLINE Address row(std::size_t i) const { return start + i * n * sizeof(T); }
+};
+
 // Rows of elements a step apart.
 template <typename T>
 struct StridedView

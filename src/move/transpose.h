@@ -30,15 +30,6 @@ consteval bool turnsRows(Member m)
     return isDense(m.layout) && !m.general();
 }
 
-// Rows of n elements without gaps between them: the compiler knows all distances.
-template <typename T, unsigned n>
-struct GaplessRows
-{
-    Address start;
-
-    TENK_INLINE Address row(std::size_t i) const { return start + i * n * sizeof(T); }
-};
-
 template <typename T, unsigned n, typename From, typename To>
 TENK_INLINE void transposeRows(const From& from, const To& to)
 {
@@ -89,7 +80,7 @@ TENK_INLINE tenkStatus transpose(Source<m> src, Size<m> width, Size<m> height, D
         const auto from = src.object(k, sourceRowLength<m>(width, height));
         const auto to = dst.object(k, destinationRowLength<m>(width, height));
         if constexpr (turnsRows(m)) {
-            using Rows = GaplessRows<T, m.size>;
+            using Rows = GaplessView<T, m.size>;
             if (!noGaps)
                 transposeRows<T, m.size>(from, to);
             else if constexpr (m.size == 3)

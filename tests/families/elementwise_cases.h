@@ -89,7 +89,8 @@ private:
 };
 
 // What is between rows and between objects: a number of elements between rows and half as many between
-// objects, or elements between objects alone.
+// objects, or elements between objects alone. Entries of lists and tables stand as many elements before what
+// they are for, which is their shift.
 constexpr unsigned betweenObjectsAlone = 3;
 
 // `count` objects of rows x columns elements in a layout, with such gaps, and their arguments.
@@ -106,7 +107,7 @@ public:
 
     // From an address that is a multiple of 16 on, or `first` elements behind one.
     Objects(Shape s, const std::string& layout, unsigned gap, unsigned first = 0)
-        : shape_(s), layout_(layout), values_(4000, T(7)), first_(first)
+        : shape_(s), layout_(layout), values_(4000, T(7)), first_(first), shift_(gap)
     {
         const bool steps = layout == "_S2" || layout == "_LS2" || layout == "_PS2";
         stride2_ = steps ? 2 : 1;
@@ -114,16 +115,16 @@ public:
         stride0_ =
             isTable() ? stride2_ : s.rows * (s.kind == 'm' ? stride1_ : s.columns * stride2_ + gap) + gap / 2;
         for (unsigned e = 0; isTable() && e < s.rows * s.columns; ++e)
-            pointers_.push_back(origin() + e * (s.count * stride2_ + gap));
+            pointers_.push_back(origin() + e * (s.count * stride2_ + gap) - gap);
         for (unsigned k = 0; isList() && k < s.count; ++k)
-            pointers_.push_back(origin() + k * stride0_);
+            pointers_.push_back(origin() + k * stride0_ - gap);
     }
 
     T& at(unsigned k, unsigned i, unsigned j)
     {
         k = shape_.array ? k : 0;
         if (isTable())
-            return *(pointers_[i * shape_.columns + j] + k * stride0_);
+            return *(pointers_[i * shape_.columns + j] + shift_ + k * stride0_);
         return origin()[k * stride0_ + i * stride1_ + j * stride2_];
     }
 
@@ -132,7 +133,7 @@ public:
         const unsigned size = sizeof(T);
         a.push_back(pointers_.empty() ? argument(origin()) : argument(pointers_.data()));
         if (!pointers_.empty())
-            a.push_back(argument(0U));
+            a.push_back(argument(shift_ * size));
         if (shape_.array && !isList() && layout_ != "_P")
             a.push_back(argument(stride0_ * size));
         if (shape_.kind == 'm' && !isTable())
@@ -165,7 +166,7 @@ public:
     }
 
 private:
-    T* origin() { return values_.begin() + first_; }
+    T* origin() { return values_.begin() + 4 + first_; } // behind the first shifted entry
     bool isTable() const { return layout_ == "_P" || layout_ == "_PS2"; }
     bool isList() const { return shape_.array && (layout_ == "_L" || layout_ == "_LS2"); }
 
@@ -173,7 +174,7 @@ private:
     std::string layout_;
     AlignedRun<T> values_;
     std::vector<T*> pointers_;
-    unsigned first_, stride0_, stride1_, stride2_;
+    unsigned first_, shift_, stride0_, stride1_, stride2_;
 };
 
 // The gaps of the destination and of the sources, and which of them begin an element behind a multiple of 16:
