@@ -73,6 +73,11 @@ void overlapGivesTheAscendingLoop(const Sum& f)
             expectAscendingLoop<T>(f, length, dst * size, 40 * size, 12 * size); // around the second
             expectAscendingLoop<T>(f, length, dst * size, 12 * size, 9 * size);  // around both
         }
+    for (std::size_t length : {2, 9, 33}) // elements behind one another by parts of one
+        for (std::size_t dst = 12 * size - 16; dst <= 12 * size + 16; ++dst) {
+            expectAscendingLoop<T>(f, length, dst, 12 * size, 40 * size);
+            expectAscendingLoop<T>(f, length, dst, 40 * size, 12 * size);
+        }
 }
 
 // The destination at every element offset from a multiple of 16, and at odd addresses.

@@ -3,6 +3,7 @@
 
 #include "sum_cases.h"
 
+#include <algorithm>
 #include <array>
 
 namespace elementwise {
@@ -222,6 +223,13 @@ inline void stepsTheLastColumnBySrc2(const Sum& f)
                                 f(a[k * 45 + i * (j == 4 ? columns2 : columns1) + j],
                                   b[(code == "mama" ? k * 45 : 0) + i * columns2 + j]);
                 EXPECT_EQ(d, expected) << code << layout << " " << columns2;
+                if (layout == "_L") {
+                    dst[1] = nullptr;
+                    std::fill(d.begin(), d.end(), 0.0);
+                    std::fill(expected.begin() + 25, expected.end(), 0.0);
+                    EXPECT_EQ(invoke(f.name(code + "_64f_5x5_L"), arguments).status, tenkNullPointerError);
+                    EXPECT_EQ(d, expected) << code << " without a second result, " << columns2;
+                }
             }
 }
 
