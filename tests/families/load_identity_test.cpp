@@ -17,9 +17,11 @@ TEST(LoadIdentity, RaisesAnElementStepThatIsTooSmall)
     Floats x(12, 9);
     EXPECT_EQ(tenkLoadIdentity_ma_32f_S(x.data(), 36, 12, 0, 3, 3, 1), tenkOk);
     EXPECT_EQ(x, (Floats{1, 0, 0, 0, 1, 0, 0, 0, 1, 9, 9, 9}));
-    std::vector<double> y(5, 9);
-    EXPECT_EQ(tenkLoadIdentity_ma_64f_S(y.data(), 0, 16, 7, 2, 2, 1), tenkOk);
-    EXPECT_EQ(y, (std::vector<double>{1, 0, 0, 1, 9}));
+    for (const std::uint32_t step : {0U, 7U}) {
+        std::vector<double> y(5, 9);
+        EXPECT_EQ(tenkLoadIdentity_ma_64f_S(y.data(), 0, 16, step, 2, 2, 1), tenkOk);
+        EXPECT_EQ(y, (std::vector<double>{1, 0, 0, 1, 9}));
+    }
 }
 
 TEST(LoadIdentity, RaisesARowStepToTheWidthInElementsWhateverTheElementStep)

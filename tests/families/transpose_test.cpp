@@ -7,6 +7,8 @@
 #include <numeric>
 #include <vector>
 
+#include "support/objects.h"
+
 namespace {
 
 using Floats = std::vector<float>;
@@ -42,6 +44,38 @@ TEST(Transpose, InPlaceOverwritesElementsBeforeTheyAreRead)
     Floats x = {1, 2, 3, 4};
     EXPECT_EQ(tenkTranspose_m_32f(x.data(), 8, 2, 2, x.data(), 8), tenkOk);
     EXPECT_EQ(x, (Floats{1, 2, 2, 4}));
+}
+
+// (0, 1), (0, 2) and (1, 2) are written over their counterparts before those are read.
+template <typename T>
+void expectUpperTriangleTwice(const std::string& code, const std::string& layout)
+{
+    using namespace support;
+    constexpr unsigned count = 2, n = 3;
+    const bool array = code == "ma";
+    auto x = matrices<T>(layout, array, count, n, n), expected = matrices<T>(layout, array, count, n, n);
+    T from = 0;
+    x.fill([&] { return from += 1; });
+    const T result[] = {1, 2, 3, 2, 5, 6, 3, 6, 9, 10, 11, 12, 11, 14, 15, 12, 15, 18};
+    const T* to = result;
+    expected.fill([&] { return *to++; });
+    const std::string name = "tenkTranspose_" + code + "_" + typeName<T>() + layout;
+    EXPECT_EQ(
+        callByName(
+            name,
+            {x.arguments(), {word(n), word(n)}, x.arguments(), array ? Arguments{word(count)} : Arguments{}}),
+        tenkOk);
+    EXPECT_EQ(x.memory(), expected.memory()) << name;
+}
+
+TEST(Transpose, OfGeneralSizeInPlaceGivesTheUpperTriangleTwice)
+{
+    for (const char* const code : {"m", "ma"})
+        for (const std::string& layout :
+             code == std::string("m") ? support::singleLayouts : support::arrayLayouts) {
+            expectUpperTriangleTwice<float>(code, layout);
+            expectUpperTriangleTwice<double>(code, layout);
+        }
 }
 
 // Behind tables, the move for (i, j) goes from entry i height + j to entry j width + i.
