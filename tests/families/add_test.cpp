@@ -90,7 +90,7 @@ TEST(Add, TestsListsObjectByObject)
 }
 TEST(Add, WorksInPlace)
 {
-    worksInPlace(add);
+    worksInPlace(add, codes, leftOut);
 }
 TEST(Add, KeepsTheSingleOperandInFixedSizesAlone)
 {

@@ -226,7 +226,18 @@ public:
     const std::string& name() const { return name_; }
 
     // With the first or the second destination.
-    tenkStatus run(unsigned count, unsigned destination = 0)
+    tenkStatus run(unsigned count, unsigned destination = 0) { return runTo(dst[destination], count); }
+    // With the first source as the destination.
+    tenkStatus runInPlace(unsigned count) { return runTo(src[0], count); }
+
+    // Whether the first source has an object for each of the destination's, stored like it.
+    bool canBeInPlace() const
+    {
+        const Source& first = sources_[sources_[0].constant ? 1 : 0];
+        return first.array == batch_ && !first.turned;
+    }
+
+    tenkStatus runTo(Objects<T>& destination, unsigned count)
     {
         std::vector<Argument> arguments;
         for (Objects<T>& source : src)
@@ -234,7 +245,7 @@ public:
         for (const Source& source : sources_)
             if (source.constant)
                 arguments.push_back(argument(value));
-        dst[destination].pass(arguments);
+        destination.pass(arguments);
         if (shape_.fixed == 0) {
             arguments.push_back(argument(shape_.width));
             if (!vectors_)
@@ -351,8 +362,41 @@ inline void expectFormulaEverywhere(const std::string& root, const std::vector<s
     });
 }
 
+// With the first source as the destination, every element is read just before it is written.
+template <typename T>
+void expectFormulaInPlace(Call<T> call, unsigned count, const std::function<T(T, T)>& f)
+{
+    if (!call.canBeInPlace())
+        return;
+    call.dst[1].randomise(1); // like the first source, gaps and all
+    call.compute(f);
+    EXPECT_EQ(call.runInPlace(count), tenkOk) << call.name();
+    EXPECT_TRUE(call.src[0].all() == call.dst[1].all()) << call.name();
+}
+
+inline void worksInPlaceEverywhere(const std::string& root, const std::vector<std::string>& codes,
+                                   const std::function<float(float, float)>& f32,
+                                   const std::function<double(double, double)>& f64, const LeftOut& leftOut)
+{
+    eachMember(codes, [&](const std::string& code, const std::string& layout, unsigned fixed) {
+        const std::string size = std::to_string(fixed) + "x" + std::to_string(fixed) + layout;
+        const unsigned count = code.find('a') == code.npos ? 1 : 3;
+        for (const unsigned odd : {0U, 3U, 4U, 7U}) // the destination is where the first source is
+            for (const unsigned gap : {0U, 1U}) {
+                const Gaps gaps = {gap, {gap, gap}, odd};
+                SCOPED_TRACE("gap " + std::to_string(gap) + ", odd " + std::to_string(odd));
+                if (!leftOut.has(code + "_32f_" + size, false))
+                    expectFormulaInPlace<float>(
+                        {root, code, layout, shapeOf<float>(code, fixed, count), gaps}, count, f32);
+                if (!leftOut.has(code + "_64f_" + size, false))
+                    expectFormulaInPlace<double>(
+                        {root, code, layout, shapeOf<double>(code, fixed, count), gaps}, count, f64);
+            }
+    });
+}
+
 // An entry that is null ends a call before its object: the same bytes are written as by a call that is told
-// to stop there.
+// to stop there. That call does not look at the entry.
 template <typename T>
 void testsListsObjectByObject(const std::string& root, const std::string& code, const std::string& layout,
                               unsigned fixed, unsigned gap)
@@ -364,6 +408,7 @@ void testsListsObjectByObject(const std::string& root, const std::string& code, 
             if (operand > call.src.size() ||
                 !(operand == 0 ? call.dst[0] : call.src[operand - 1]).loseObject(bad))
                 continue;
+            EXPECT_EQ(call.run(bad), tenkOk) << call.name();
             EXPECT_EQ(call.run(3), tenkNullPointerError) << call.name();
             EXPECT_TRUE(call.dst[0].all() == call.dst[1].all())
                 << call.name() << " operand " << operand << " at " << bad;

@@ -76,40 +76,11 @@ TEST(MulByAConstant, OfNineElementsBehindAnAlignedAddressTakesEachElementOnce)
 
 TEST(MulByAConstant, WorksInPlaceUnlessItTransposes)
 {
-    for (unsigned n = 3; n <= 6; ++n)
-        for (const unsigned gap : {0U, 1U}) {
-            const unsigned stride1 = (n + gap) * 4, stride0 = n * stride1;
-            const std::string size = "_" + std::to_string(n) + "x" + std::to_string(n);
-            auto x = counting<float>(200), expected = x;
-            for (unsigned i = 0; i < 2 * n; ++i)
-                for (unsigned j = 0; j < n; ++j)
-                    expected[i * stride1 / 4 + j] *= 3;
-            EXPECT_EQ(status("tenkMul_mac_32f" + size, x.data(), stride0, stride1, 3.F, x.data(), stride0,
-                             stride1, 2),
-                      tenkOk);
-            EXPECT_EQ(x, expected);
-            x = counting<float>(200);
-            EXPECT_EQ(status("tenkMul_mac_32f", x.data(), stride0, stride1, 3.F, x.data(), stride0, stride1,
-                             n, n, 2),
-                      tenkOk);
-            EXPECT_EQ(x, expected);
-            // One object: the rows of the first.
-            for (const bool general : {false, true}) {
-                auto one = counting<float>(200), scaled = one;
-                for (unsigned i = 0; i < n; ++i)
-                    for (unsigned j = 0; j < n; ++j)
-                        scaled[i * stride1 / 4 + j] *= 3;
-                EXPECT_EQ(
-                    general ? status("tenkMul_mc_32f", one.data(), stride1, 3.F, one.data(), stride1, n, n)
-                            : status("tenkMul_mc_32f" + size, one.data(), stride1, 3.F, one.data(), stride1),
-                    tenkOk);
-                EXPECT_EQ(one, scaled);
-            }
-        }
-    auto v = counting<double>(20);
-    EXPECT_EQ(tenkMul_vac_64f_5x1(v.data(), 40, 2, v.data(), 40, 4), tenkOk);
-    for (std::size_t j = 0; j < 20; ++j)
-        EXPECT_EQ(v[j], static_cast<double>(2 * j + 2));
+    worksInPlaceEverywhere(
+        "Mul", codes, [](float a, float b) { return a * b; }, [](double a, double b) { return a * b; }, {});
+    std::vector<float> x = {1, -2, 3, 4, 5, 6, 7, 8, 9};
+    EXPECT_EQ(tenkMul_mac_32f_3x3(x.data(), 36, 12, 3, x.data(), 36, 12, 1), tenkOk);
+    EXPECT_EQ(x, (std::vector<float>{3, -6, 9, 12, 15, 18, 21, 24, 27}));
 }
 
 // In place, a transposing loop reads what it has written above the diagonal when it comes to what is below.
@@ -153,29 +124,47 @@ void expectTransposedInPlace(unsigned n, const std::string& size, const std::str
     }
 }
 
-// The same behind tables, where no size is exact.
+// The same behind tables, where no size is exact: two objects, one element behind the other or two.
+template <typename T>
+void expectTransposedInPlaceBehindTables(unsigned n, bool fixed, const std::string& code,
+                                         const std::string& layout)
+{
+    const bool batch = code == "maTc";
+    const unsigned step = layout == "_PS2" ? 2 : 1, count = batch ? 2 : 1;
+    auto x = counting<T>(4 * n * n), expected = x;
+    std::vector<T*> table;
+    for (unsigned e = 0; e < n * n; ++e)
+        table.push_back(&x[4 * e]);
+    for (unsigned k = 0; k < count; ++k)
+        for (unsigned i = 0; i < n; ++i)
+            for (unsigned j = 0; j < n; ++j)
+                expected[4 * (i * n + j) + k * step] = 2 * expected[4 * (j * n + i) + k * step];
+    std::vector<Argument> operand = {argument(table.data()), argument(0)};
+    if (layout == "_PS2")
+        operand.push_back(argument(step * sizeof(T)));
+    std::vector<Argument> a = operand;
+    a.push_back(argument(T(2)));
+    a.insert(a.end(), operand.begin(), operand.end());
+    for (int word = 0; word < (fixed ? 0 : 2); ++word)
+        a.push_back(argument(n));
+    if (batch)
+        a.push_back(argument(count));
+    const std::string size = fixed ? "_" + std::to_string(n) + "x" + std::to_string(n) : "";
+    const std::string name = "tenkMul_" + code + "_" + typeName<T>() + size + layout;
+    EXPECT_EQ(invoke(name, a).status, tenkOk);
+    EXPECT_EQ(x, expected) << name;
+}
+
 TEST(MulByAConstant, TransposedInPlaceBehindTablesIsThePlainLoop)
 {
-    for (const unsigned n : {3U, 4U})
+    for (const unsigned n : {3U, 4U, 5U, 6U})
         for (const bool fixed : {false, true})
-            for (const std::string code : {"mTc", "maTc"}) {
-                auto x = counting<double>(n * n), expected = x;
-                std::vector<double*> table;
-                for (unsigned e = 0; e < n * n; ++e)
-                    table.push_back(&x[e]);
-                for (unsigned i = 0; i < n; ++i)
-                    for (unsigned j = 0; j < n; ++j)
-                        expected[i * n + j] = 2 * expected[j * n + i];
-                const std::string size = fixed ? "_" + std::to_string(n) + "x" + std::to_string(n) : "";
-                std::vector<Argument> a = {argument(table.data()), argument(0), argument(2.0),
-                                           argument(table.data()), argument(0)};
-                for (int word = 0; word < (fixed ? 0 : 2); ++word)
-                    a.push_back(argument(n));
-                if (code == "maTc")
-                    a.push_back(argument(1));
-                EXPECT_EQ(invoke("tenkMul_" + code + "_64f" + size + "_P", a).status, tenkOk);
-                EXPECT_EQ(x, expected) << code << size;
-            }
+            for (const std::string layout : {"_P", "_PS2"})
+                for (const std::string code : {"mTc", "maTc"})
+                    if (code == "maTc" || layout == "_P") {
+                        expectTransposedInPlaceBehindTables<float>(n, fixed, code, layout);
+                        expectTransposedInPlaceBehindTables<double>(n, fixed, code, layout);
+                    }
 }
 
 TEST(MulByAConstant, TransposedInPlaceIsExactAt4x4WithAdjacentElementsAlone)
@@ -187,8 +176,10 @@ TEST(MulByAConstant, TransposedInPlaceIsExactAt4x4WithAdjacentElementsAlone)
             expectTransposedInPlace<float>(n, size, layout, exact);
             expectTransposedInPlace<double>(n, size, layout, exact);
         }
-        expectTransposedInPlace<float>(4, "", layout, false);
-        expectTransposedInPlace<double>(5, "", layout, false);
+        for (const unsigned n : {2U, 4U, 5U}) {
+            expectTransposedInPlace<float>(n, "", layout, false);
+            expectTransposedInPlace<double>(n, "", layout, false);
+        }
     }
 }
 

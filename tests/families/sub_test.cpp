@@ -112,7 +112,7 @@ TEST(Sub, TestsListsObjectByObject)
 }
 TEST(Sub, WorksInPlace)
 {
-    worksInPlace(sub);
+    worksInPlace(sub, codes, leftOut);
 }
 TEST(Sub, KeepsTheSingleOperandInFixedSizesAlone)
 {

@@ -252,34 +252,9 @@ inline void testsLists(const Sum& f)
 // Overlap of objects
 // ---------------------------------------------------------------------------------------------------------------
 
-inline void worksInPlace(const Sum& f)
+inline void worksInPlace(const Sum& f, const std::vector<std::string>& codes, const LeftOut& leftOut)
 {
-    for (const std::string size : {"", "_3x3", "_4x4", "_5x5", "_6x6"}) {
-        const unsigned n = size.empty() ? 5 : static_cast<unsigned>(size[1] - '0');
-        for (const unsigned gap : {0U, 1U}) {
-            const unsigned stride1 = (n + gap) * 8, stride0 = stride1 * n + gap * 8;
-            std::vector<double> x(400), y(400), before;
-            for (std::size_t e = 0; e < 400; ++e) {
-                x[e] = 1.0 / static_cast<double>(e + 1);
-                y[e] = 1.0 / static_cast<double>(e + 400);
-            }
-            before = x;
-            const tenkStatus s = size.empty()
-                                     ? status(f.name("mama_64f"), x.data(), stride0, stride1, y.data(),
-                                              stride0, stride1, x.data(), stride0, stride1, n, n, 3)
-                                     : status(f.name("mama_64f" + size), x.data(), stride0, stride1, y.data(),
-                                              stride0, stride1, x.data(), stride0, stride1, 3);
-            EXPECT_EQ(s, tenkOk);
-            std::vector<double> expected = before;
-            for (unsigned k = 0; k < 3; ++k)
-                for (unsigned i = 0; i < n; ++i)
-                    for (unsigned j = 0; j < n; ++j) {
-                        const std::size_t e = (k * stride0 + i * stride1) / 8 + j;
-                        expected[e] = f(before[e], y[e]);
-                    }
-            EXPECT_EQ(x, expected);
-        }
-    }
+    worksInPlaceEverywhere(f.root, codes, f, f, leftOut);
 }
 
 // Members of fixed size keep the single operand of an array; general ones read it again, with what was stored
