@@ -1,6 +1,7 @@
 // LComb: edge cases by hand, and all members against the formula.
 #include "tenk.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <cstring>
@@ -100,6 +101,42 @@ TEST(LComb, FormsBothProductsForEveryValue)
     EXPECT_TRUE(std::isnan(z[0]));
     EXPECT_TRUE(std::isnan(z[1]));
     EXPECT_EQ(z[2], 0.0F);
+}
+
+// A NaN in either vector times 0 is no number, whatever the other product.
+template <typename T>
+void checkFormsBothProducts(const std::string& codes, unsigned size, const std::string& layout)
+{
+    const bool array1 = codes != "vv", array2 = codes == "vava";
+    const bool array = array1 || array2;
+    const unsigned count = array ? 2 : 1, length = size == 0 ? 19 : size;
+    for (const bool second : {false, true}) {
+        auto a = vectors<T>(layout, array1, count, length), b = vectors<T>(layout, array2, count, length);
+        auto dst = vectors<T>(layout, array, count, length);
+        a.fill([] { return T(3); }), b.fill([] { return T(3); });
+        (second ? b : a).fill([] { return std::numeric_limits<T>::quiet_NaN(); });
+        const std::string name = nameOf<T>(codes, size, layout);
+        ASSERT_EQ(callByName(name, {a.arguments(),
+                                    {value(T(second ? 1 : 0))},
+                                    b.arguments(),
+                                    {value(T(second ? 0 : 1))},
+                                    dst.arguments(),
+                                    sizes(size, length, array ? count : 0)}),
+                  tenkOk);
+        for (unsigned k = 0; k < count; ++k)
+            for (unsigned j = 0; j < length; ++j)
+                EXPECT_TRUE(std::isnan(dst.at(k, j))) << name;
+    }
+}
+
+TEST(LComb, FormsBothProductsForEveryValueInAllMembers)
+{
+    for (const char* codes : {"vv", "vav", "vava"})
+        for (unsigned size : {0U, 3U, 4U, 5U, 6U})
+            for (const std::string& layout : codes == std::string("vv") ? singleLayouts : arrayLayouts) {
+                checkFormsBothProducts<float>(codes, size, layout);
+                checkFormsBothProducts<double>(codes, size, layout);
+            }
 }
 
 TEST(LComb, OfEightElementsOnBoundariesIsThereAndNoMore)
@@ -454,6 +491,43 @@ TEST(LComb, TestsPointersThenLengthThenTablesThenCount)
               tenkNullPointerError);
     EXPECT_EQ(tenkLComb_vav_32f_3x1_L(broken, 0, 1, x, 1, to, 0, 0), tenkOk);
     EXPECT_EQ(z[0], 9.0F);
+}
+
+// Without objects, a null entry of a table is found and no entry of a list is looked at.
+template <typename T>
+void checkEmptyArray(const std::string& codes, unsigned size, const std::string& layout)
+{
+    const bool array1 = true, array2 = codes == "vava";
+    const unsigned length = size == 0 ? 5 : size;
+    for (unsigned which = 0; which < 3; ++which) {
+        auto a = vectors<T>(layout, array1, 3, length), b = vectors<T>(layout, array2, 3, length);
+        auto dst = vectors<T>(layout, true, 3, length);
+        const auto before = dst.memory();
+        std::vector<T*>& pointers = (which == 0 ? a : which == 1 ? b : dst).pointers();
+        if (a.isTable())
+            pointers.back() = nullptr;
+        else
+            std::fill(pointers.begin(), pointers.end(), nullptr);
+        Arguments last = sizes(size, length, 0);
+        last.push_back(word(0));
+        const std::string name = nameOf<T>(codes, size, layout);
+        EXPECT_EQ(
+            callByName(name,
+                       {a.arguments(), {value(T(2))}, b.arguments(), {value(T(3))}, dst.arguments(), last}),
+            a.isTable() ? tenkNullPointerError : tenkOk)
+            << name << which;
+        EXPECT_EQ(dst.memory(), before) << name;
+    }
+}
+
+TEST(LComb, OfAnEmptyArrayTestsTablesAndNoLists)
+{
+    for (const char* codes : {"vav", "vava"})
+        for (unsigned size : {0U, 3U, 4U, 5U, 6U})
+            for (const std::string& layout : arrayLayouts) {
+                checkEmptyArray<float>(codes, size, layout);
+                checkEmptyArray<double>(codes, size, layout);
+            }
 }
 
 TEST(LComb, OfOnePairBehindTablesTestsEntriesElementByElement)

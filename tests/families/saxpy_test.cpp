@@ -1,6 +1,7 @@
 // Saxpy: edge cases by hand, and all members against the formula.
 #include "tenk.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <cstring>
@@ -95,6 +96,38 @@ TEST(Saxpy, FormsTheProductForEveryValue)
     EXPECT_EQ(tenkSaxpy_vv_32f_3x1(x, 0, y, z), tenkOk);
     EXPECT_TRUE(std::isnan(z[0]));
     EXPECT_EQ(z[1], 2.0F);
+}
+
+// An infinite element of the first vector times 0 is no number.
+template <typename T>
+void checkFormsTheProduct(const std::string& codes, unsigned size, const std::string& layout)
+{
+    const bool array1 = codes == "vav" || codes == "vava", array2 = codes == "vva" || codes == "vava";
+    const bool array = array1 || array2;
+    const unsigned count = array ? 2 : 1, length = size == 0 ? 19 : size;
+    auto a = vectors<T>(layout, array1, count, length), b = vectors<T>(layout, array2, count, length);
+    auto dst = vectors<T>(layout, array, count, length);
+    a.fill([] { return std::numeric_limits<T>::infinity(); }), b.fill([] { return T(1); });
+    const std::string name = nameOf<T>(codes, size, layout);
+    ASSERT_EQ(callByName(name, {a.arguments(),
+                                {value(T(0))},
+                                b.arguments(),
+                                dst.arguments(),
+                                sizes(size, length, array ? count : 0)}),
+              tenkOk);
+    for (unsigned k = 0; k < count; ++k)
+        for (unsigned j = 0; j < length; ++j)
+            EXPECT_TRUE(std::isnan(dst.at(k, j))) << name;
+}
+
+TEST(Saxpy, FormsTheProductForEveryValueInAllMembers)
+{
+    for (const char* codes : {"vv", "vav", "vva", "vava"})
+        for (unsigned size : {0U, 3U, 4U, 5U, 6U})
+            for (const std::string& layout : codes == std::string("vv") ? singleLayouts : arrayLayouts) {
+                checkFormsTheProduct<float>(codes, size, layout);
+                checkFormsTheProduct<double>(codes, size, layout);
+            }
 }
 
 // All lengths up to 40 and two long ones at all alignments of the destination, odd ones among them.
@@ -375,6 +408,41 @@ TEST(Saxpy, TestsPointersThenLengthThenTablesThenCount)
     EXPECT_EQ(tenkSaxpy_vva_32f_3x1_PS2(from, 0, 1, from, 0, 4, brokenTo, 0, 4, 0), tenkNullPointerError);
     EXPECT_EQ(tenkSaxpy_vav_32f_3x1_L(broken, 0, 1, x, to, 0, 0), tenkOk);
     EXPECT_EQ(z[0], 9.0F);
+}
+
+// Without objects, a null entry of a table is found and no entry of a list is looked at.
+template <typename T>
+void checkEmptyArray(const std::string& codes, unsigned size, const std::string& layout)
+{
+    const bool array1 = codes == "vav" || codes == "vava", array2 = codes == "vva" || codes == "vava";
+    const unsigned length = size == 0 ? 5 : size;
+    for (unsigned which = 0; which < 3; ++which) {
+        auto a = vectors<T>(layout, array1, 3, length), b = vectors<T>(layout, array2, 3, length);
+        auto dst = vectors<T>(layout, true, 3, length);
+        const auto before = dst.memory();
+        std::vector<T*>& pointers = (which == 0 ? a : which == 1 ? b : dst).pointers();
+        if (a.isTable())
+            pointers.back() = nullptr;
+        else
+            std::fill(pointers.begin(), pointers.end(), nullptr);
+        Arguments last = sizes(size, length, 0);
+        last.push_back(word(0));
+        const std::string name = nameOf<T>(codes, size, layout);
+        EXPECT_EQ(callByName(name, {a.arguments(), {value(T(2))}, b.arguments(), dst.arguments(), last}),
+                  a.isTable() ? tenkNullPointerError : tenkOk)
+            << name << which;
+        EXPECT_EQ(dst.memory(), before) << name;
+    }
+}
+
+TEST(Saxpy, OfAnEmptyArrayTestsTablesAndNoLists)
+{
+    for (const char* codes : {"vav", "vva", "vava"})
+        for (unsigned size : {0U, 3U, 4U, 5U, 6U})
+            for (const std::string& layout : arrayLayouts) {
+                checkEmptyArray<float>(codes, size, layout);
+                checkEmptyArray<double>(codes, size, layout);
+            }
 }
 
 TEST(Saxpy, OfOnePairBehindTablesTestsEntriesElementByElement)
