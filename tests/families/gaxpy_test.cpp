@@ -115,6 +115,36 @@ TEST(Gaxpy, TwoRowsOfThree)
     EXPECT_EQ((std::array{e[0], e[1], e[2]}), (std::array{1321., 2654., -1.}));
 }
 
+// Width 3, height 2 in all general members: every row is 1 2 3 or 4 5 6, and what is behind the two elements
+// of src3 and dst stays.
+TEST(Gaxpy, TwoRowsOfThreeInAllLayouts)
+{
+    for (const bool batch : {false, true})
+        for (const std::string& layout : layoutsOf(batch))
+            eachType([&]<typename T>() {
+                constexpr unsigned width = 3, height = 2, count = 2;
+                Objects<T> a(layout, false, false, count, height, width),
+                    x(layout, batch, true, count, 1, width), y(layout, batch, true, count, 1, height),
+                    d(layout, batch, true, count, 1, height), expected(layout, batch, true, count, 1, height);
+                d.fillWith(-1), expected.fillWith(-1);
+                for (unsigned i = 0; i < height; ++i)
+                    for (unsigned p = 0; p < width; ++p)
+                        a.at(0, i, p) = T(3 * i + p + 1);
+                for (unsigned k = 0; k < (batch ? count : 1); ++k) {
+                    x.at(k, 0) = 1, x.at(k, 1) = 10, x.at(k, 2) = k == 0 ? 100 : 200;
+                    y.at(k, 0) = 1000, y.at(k, 1) = 2000;
+                    expected.at(k, 0) = k == 0 ? 1321 : 1621;
+                    expected.at(k, 1) = k == 0 ? 2654 : 3254;
+                }
+                const std::string name =
+                    std::string("tenkGaxpy_") + (batch ? "va_" : "v_") + typeName<T>() + layout;
+                const Arguments sizes = batch ? words({width, height, count}) : words({width, height});
+                EXPECT_EQ(call(name, a.arguments() + x.arguments() + y.arguments() + d.arguments() + sizes),
+                          tenkOk);
+                EXPECT_EQ(d.values(), expected.values()) << name;
+            });
+}
+
 TEST(Gaxpy, TheVectorIsAddedToTheFinishedSum)
 {
     // In 32f big + 1 is big: 1 + 1 + big = big + 2, starting with big gives big.
@@ -154,6 +184,19 @@ TEST(Gaxpy, TreesByHand)
     EXPECT_EQ(d[4], 52); // ((big - big) + 0) + (1 + 1)
     EXPECT_EQ(tenkGaxpy_v_32f_6x6(ones, 24, x, y, d), tenkOk);
     EXPECT_EQ(d[5], 62);
+}
+
+// Terms big, 1, -big: (big + 1 = big) - big = 0, fixed and general; any other order leaves 1.
+TEST(Gaxpy, ThreeByThreeSumsLikeTheGeneralMembers)
+{
+    const float big = 16777216, ones[9] = {1, 1, 1, 1, 1, 1, 1, 1, 1}, x[] = {big, 1, -big}, y[] = {5, 6, 7};
+    float fixed[3], general[3];
+    EXPECT_EQ(tenkGaxpy_v_32f_3x3(ones, 12, x, y, fixed), tenkOk);
+    EXPECT_EQ(tenkGaxpy_v_32f(ones, 12, x, y, general, 3, 3), tenkOk);
+    for (unsigned i = 0; i < 3; ++i) {
+        EXPECT_EQ(fixed[i], y[i]);
+        EXPECT_EQ(general[i], y[i]);
+    }
 }
 
 TEST(Gaxpy, NegativeZeros)
@@ -216,6 +259,12 @@ TEST(Gaxpy, AnEmptyBatchWritesNothing)
             eachType([&]<typename T>() {
                 Update<T> u(true, layout, n);
                 const auto before = u.d.values();
+                EXPECT_EQ(call(u.name, u.arguments(0)), tenkOk) << u.name;
+                EXPECT_EQ(u.d.values(), before) << u.name;
+                if (!hasList(layout))
+                    return;
+                for (Objects<T>* o : {&u.x, &u.y, &u.d}) // no entry of a list is looked at
+                    std::fill(o->pointers.begin(), o->pointers.end(), nullptr);
                 EXPECT_EQ(call(u.name, u.arguments(0)), tenkOk) << u.name;
                 EXPECT_EQ(u.d.values(), before) << u.name;
             });
@@ -322,6 +371,32 @@ TEST(Gaxpy, DenseFixedSizesWorkInPlace)
                     }
                 });
         }
+}
+
+// All other members set an element of the destination to 0 and add to it while they still read the vectors.
+TEST(Gaxpy, AllOtherMembersInPlaceReadWhatTheyHaveWritten)
+{
+    eachMember([]<typename T>(bool batch, const std::string& layout, unsigned n) {
+        if (n != 0 && isDense(layout))
+            return;
+        for (const bool addend : {false, true}) {
+            Update<T> u(batch, layout, n), expected(batch, layout, n);
+            Objects<T>& over = addend ? expected.y : expected.x;
+            for (unsigned k = 0; k < u.count; ++k)
+                for (unsigned i = 0; i < u.order; ++i) {
+                    T& sum = over.at(k, i);
+                    sum = 0;
+                    for (unsigned p = 0; p < u.order; ++p) {
+                        const T term = expected.term(k, i, p);
+                        sum = sum + term;
+                    }
+                    sum = sum + expected.y.at(k, i);
+                }
+            Objects<T>& destination = addend ? u.y : u.x;
+            ASSERT_EQ(call(u.name, u.arguments(u.count, destination.arguments())), tenkOk) << u.name;
+            EXPECT_EQ(destination.values(), over.values()) << u.name << (addend ? " src3" : " src2");
+        }
+    });
 }
 
 TEST(Gaxpy, OthersKeepTheRunningSumInTheDestination)
