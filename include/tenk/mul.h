@@ -92,6 +92,9 @@
  * multiples of 16, every object of `dst` is the product with object 0 of `src1`, and src1Stride0 is not used. If one of
  * them is not, object k is the product with object k.
  *
+ * The mam and maTm among the members that start with the first term read `src2` before they look at `count`: it has to
+ * be readable even if that is 0.
+ *
  * Overlap: members that start with the first term read `src2` before they write, so `dst` may be `src2`, and read a row
  * of a `src1` without T before they write that row, so `dst` may be such a `src1`, of the same strides; but for 32f 6x6
  * in Standard and _L, and for arrays by arrays in 64f as above, that is not promised. All other members keep the

@@ -80,6 +80,22 @@ consteval bool isKernel(Member m)
     return !m.general() && (isDense(m.layout) || gathersRows(m));
 }
 
+// Kernels of these codes read the right factor before they look at the count: it is to be readable without
+// objects, too.
+consteval bool readsRightFirst(Member m)
+{
+    return isKernel(m) && (hasCodesOf(m, "tenkMul_mam_32f") || hasCodesOf(m, "tenkMul_maTm_32f"));
+}
+
+template <Member m>
+TENK_INLINE void readRight(const Source<m, 1>& src2)
+{
+    const auto view = src2.object(0, m.size);
+    for (std::size_t p = 0; p < m.size; ++p)
+        for (std::size_t j = 0; j < m.size; ++j)
+            static_cast<void>(*reinterpret_cast<const volatile unsigned char*>(view.at(p, j)));
+}
+
 // The rows of the right factor.
 template <Member m, typename View>
 TENK_INLINE Block<Element<m>, m.size> loadRight(const View& view)
@@ -192,8 +208,11 @@ TENK_INLINE tenkStatus matrixMatrix(Source<m, 0> src1, Size<m> src1Width, Size<m
     }
 
     if constexpr (isKernel(m)) {
-        if (count == 0)
+        if (count == 0) {
+            if constexpr (readsRightFirst(m))
+                readRight<m>(src2);
             return tenkOk;
+        }
         if constexpr (knowsPacked(m))
             if (arePacked<m.size>(src1, src2, dst))
                 return multiplyAll<m, true>(src1, src2, dst, count);

@@ -414,6 +414,29 @@ TEST(MulMatrix, AnEmptyBatchWritesNothing)
     });
 }
 
+// Kernels of two codes read the single factor before they look at the count. Nobody else does.
+TEST(MulMatrix, KernelsOfMamAndMaTmReadTheSingleFactorEvenWithoutObjects)
+{
+    void* const unreadable = mmap(nullptr, 4096, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    ASSERT_NE(unreadable, MAP_FAILED);
+    eachMember([&]<typename T>(const Code& c, const std::string& layout, unsigned n) {
+        if (!c.batch())
+            return;
+        const bool named = c.name == "mam" || c.name == "maTm";
+        Product<T> x(c, layout, n);
+        Arguments all = x.arguments(0);
+        if (hasTable(layout))
+            std::fill(x.b.pointers.begin(), x.b.pointers.end(), static_cast<T*>(unreadable));
+        else
+            all[x.a.arguments().size() + (n == 0 ? 2 : 0)] = pointer(unreadable);
+        if (named && n != 0 && (isDense(layout) || startsWithFirstTerm(x.name)))
+            EXPECT_DEATH(call(x.name, all), "") << x.name;
+        else
+            EXPECT_EQ(call(x.name, all), tenkOk) << x.name;
+    });
+    munmap(unreadable, 4096);
+}
+
 TEST(MulMatrix, ANullEntryOfATableIsFoundBeforeAnythingIsWritten)
 {
     eachMember([]<typename T>(const Code& c, const std::string& layout, unsigned n) {
