@@ -111,23 +111,46 @@ TEST(Trace, OfOrderOneIsTheElementAndMinusZeroBecomesPlusZero)
         }
 }
 
-TEST(Trace, PassesNaNsAndInfinitiesThroughAndReadsNothingBesideTheDiagonal)
+// All that is beside the diagonal of 1, 2, 3, ... is a NaN; then elements of the diagonal are.
+template <typename T>
+void checkSpecialValues(bool array, unsigned size, const std::string& layout)
 {
-    const float nan = std::numeric_limits<float>::quiet_NaN();
-    const float x[] = {1, nan, nan, nan, 2, nan, nan, nan, 3}, y[] = {1, 0, 0, 0, nan, 0, 0, 0, 3};
-    float t = 9;
-    EXPECT_EQ(tenkTrace_m_32f_3x3(x, 12, &t), tenkOk);
-    EXPECT_EQ(t, 6.0F);
-    EXPECT_EQ(tenkTrace_m_32f(x, 12, 3, &t), tenkOk);
-    EXPECT_EQ(t, 6.0F);
-    EXPECT_EQ(tenkTrace_m_32f_3x3(y, 12, &t), tenkOk);
-    EXPECT_TRUE(std::isnan(t));
-    const float infinity = std::numeric_limits<float>::infinity();
-    const float z[] = {1, 0, 0, 0, infinity, 0, 0, 0, -3}, w[] = {infinity, 0, 0, -infinity};
-    EXPECT_EQ(tenkTrace_m_32f_3x3(z, 12, &t), tenkOk);
-    EXPECT_EQ(t, infinity);
-    EXPECT_EQ(tenkTrace_m_32f(w, 8, 2, &t), tenkOk);
-    EXPECT_TRUE(std::isnan(t));
+    const T infinity = std::numeric_limits<T>::infinity(), nan = std::numeric_limits<T>::quiet_NaN();
+    const unsigned count = array ? 3 : 1, order = size == 0 ? 7 : size;
+    const std::string name = nameOf<T>(array, size, layout);
+    auto a = matrices<T>(layout, array, count, order, order);
+    a.fill([=] { return nan; });
+    // With x in place p of the diagonal and y in the last.
+    const auto trace = [&](unsigned p, T x, T y) {
+        for (unsigned k = 0; k < count; ++k)
+            for (unsigned i = 0; i < order; ++i)
+                a.at(k, i, i) = i == p ? x : i + 1 == order ? y : T(i + 1);
+        std::vector<T> dst(count, T(9));
+        Arguments counts;
+        if (array)
+            counts.push_back(word(count));
+        EXPECT_EQ(callByName(name, {a.arguments(), sizes(size, order), {pointer(dst.data())}, counts}),
+                  tenkOk);
+        return dst[count / 2];
+    };
+    const T last = T(order), sum = T(order * (order + 1) / 2);
+    for (unsigned p = 0; p + 1 < order; ++p) {
+        EXPECT_EQ(trace(p, T(p + 1), last), sum) << name;
+        EXPECT_TRUE(std::isnan(trace(p, nan, last))) << name << p;
+        EXPECT_EQ(trace(p, infinity, last), infinity) << name << p;
+        EXPECT_EQ(trace(p, -infinity, last), -infinity) << name << p;
+        EXPECT_TRUE(std::isnan(trace(p, infinity, -infinity))) << name << p;
+    }
+}
+
+TEST(Trace, PassesNaNsAndInfinitiesOfTheDiagonalThroughAndNoOthers)
+{
+    for (bool array : {false, true})
+        for (unsigned size : {0U, 3U, 4U, 5U, 6U})
+            for (const std::string& layout : array ? arrayLayouts : singleLayouts) {
+                checkSpecialValues<float>(array, size, layout);
+                checkSpecialValues<double>(array, size, layout);
+            }
 }
 
 // Every second page can be read. Rows are two pages less an element apart, so that the diagonal goes along
