@@ -63,16 +63,46 @@ TEST(CrossProduct, OfTheFirstTwoAxesIsTheThird)
     EXPECT_EQ(dz, (std::vector<double>{0, 0, 1, 9}));
 }
 
-TEST(CrossProduct, OfAVectorWithItselfIsExactlyZeroUnlessAnElementIsInfinite)
+// `special` stands in place `at` of both vectors: component `at` is made of the two others.
+template <typename T>
+void checkWithItself(const std::string& codes, const std::string& layout, T special, unsigned at)
 {
-    const float x[] = {0.1F, 0.7F, -3.3F}, infinite[] = {std::numeric_limits<float>::infinity(), 1, 2};
-    Floats z(3, 9);
-    EXPECT_EQ(tenkCrossProduct_vv_32f_3x1(x, x, z.data()), tenkOk);
-    EXPECT_EQ(z, Floats(3, 0));
-    EXPECT_EQ(tenkCrossProduct_vv_32f_3x1(infinite, infinite, z.data()), tenkOk);
-    EXPECT_EQ(z[0], 0.0F); // 1 x 2 - 2 x 1
-    EXPECT_TRUE(std::isnan(z[1]));
-    EXPECT_TRUE(std::isnan(z[2]));
+    const bool array1 = codes == "vav" || codes == "vava", array2 = codes == "vva" || codes == "vava";
+    const unsigned count = array1 || array2 ? 5 : 1;
+    const std::string name = "tenkCrossProduct_" + codes + "_" + typeName<T>() + "_3x1" + layout;
+    auto a = vectors<T>(layout, array1, count, 3), b = vectors<T>(layout, array2, count, 3),
+         dst = vectors<T>(layout, array1 || array2, count, 3);
+    for (unsigned k = 0; k < count; ++k)
+        for (unsigned j = 0; j < 3; ++j) {
+            const T x = j == at ? special : j == 1 ? T(0.7) : T(-3.3);
+            a.at(k, j) = b.at(k, j) = x;
+        }
+    Arguments sizes;
+    if (array1 || array2)
+        sizes.push_back(word(count));
+    ASSERT_EQ(callByName(name, {a.arguments(), b.arguments(), dst.arguments(), sizes}), tenkOk) << name;
+    for (unsigned k = 0; k < count; ++k)
+        for (unsigned j = 0; j < 3; ++j) {
+            if (j == at || std::isfinite(special)) {
+                EXPECT_EQ(dst.at(k, j), T(0)) << name << j;
+                EXPECT_FALSE(std::signbit(dst.at(k, j))) << name << j;
+            } else {
+                EXPECT_TRUE(std::isnan(dst.at(k, j))) << name << j << " with " << special << " at " << at;
+            }
+        }
+}
+
+TEST(CrossProduct, OfAVectorWithItselfIsExactlyZeroUnlessAnElementIsInfiniteOrNaN)
+{
+    for (const char* codes : {"vv", "vav", "vva", "vava"})
+        for (const std::string& layout : codes == std::string("vv") ? singleLayouts : arrayLayouts)
+            for (unsigned at = 0; at < 3; ++at)
+                for (double special :
+                     {0.1, std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity(),
+                      std::numeric_limits<double>::quiet_NaN()}) {
+                    checkWithItself<float>(codes, layout, static_cast<float>(special), at);
+                    checkWithItself<double>(codes, layout, special, at);
+                }
 }
 
 TEST(CrossProduct, OfFiveObjectsIsThatOfFiveSingleOnes)

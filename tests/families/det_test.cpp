@@ -79,14 +79,34 @@ TEST(Det, IsZeroWithANaNInAPivotOrBelowIt)
     EXPECT_EQ(determinant<float>({aNaN, 1, 2, 3}, 2), 0.0F); // never beaten by the 2 below it
     EXPECT_EQ(determinant<double>({aNaN, 1, 2, 3}, 2), 0.0);
     EXPECT_EQ(determinant<float>({1, 2, 3, aNaN}, 2), 0.0F);
-    EXPECT_EQ(determinant<double>({1, 2, aNaN, 3}, 2), 0.0); // spreads to the last pivot
+    EXPECT_EQ(determinant<float>({1, 2, aNaN, 3}, 2), 0.0F); // spreads to the last pivot
+    EXPECT_EQ(determinant<double>({1, 2, aNaN, 3}, 2), 0.0);
 }
 
+// Column 0 is 1, NaN, 2. Whatever is done the result is 0, for the row with the NaN ends as a pivot; but with
+// the pivot 2 the second element of row 0 becomes x - y / 2, and only then does that one overflow which
+// should: with the pivot 1 it is y - 2 x, twice as large, and with the NaN there is no update at all.
+template <typename T>
+bool overflowsBesideANaN(double x, double y)
+{
+    constexpr T max = std::numeric_limits<T>::max();
+    const T m[9] = {1, static_cast<T>(x * max), 0, static_cast<T>(aNaN), 1, 0, 2, static_cast<T>(y * max), 1};
+    char buffer[3 * 3 * sizeof(T) + 3 * 4];
+    T dst = 9;
+    const Arguments arguments = {pointer(m), word(3 * sizeof(T)), word(3), pointer(buffer), pointer(&dst)};
+    const support::Outcome outcome =
+        support::call(support::exportedAddress("tenkDet_m_" + typeName<T>()), arguments);
+    EXPECT_EQ(outcome.status, tenkOk);
+    EXPECT_EQ(dst, T(0));
+    constexpr std::uint32_t overflow = 8; // in either register of flags
+    return ((outcome.raised | outcome.x87Raised) & overflow) != 0;
+}
 TEST(Det, PassesOverANaNInTheSearch)
 {
-    // Column 0 is 1, NaN, 2: the pivot is 2, and row 1 becomes NaN. What was row 0 is the last of the
-    // permutation, and the pivot of position 1 is a NaN.
-    EXPECT_EQ(determinant<float>({1, 0, 0, aNaN, 1, 0, 2, 0, 1}, 3), 0.0F);
+    EXPECT_TRUE(overflowsBesideANaN<float>(-0.75, 0.75)); // -1.125
+    EXPECT_FALSE(overflowsBesideANaN<float>(-0.5, 0.5));  // -0.75; 1.5 with the pivot 1
+    EXPECT_TRUE(overflowsBesideANaN<double>(-0.75, 0.75));
+    EXPECT_FALSE(overflowsBesideANaN<double>(-0.5, 0.5));
 }
 
 TEST(Det, Of64fComparesWithAMaximumRoundedToBinary32)
@@ -184,16 +204,28 @@ TEST(Det, MultipliesTheSignIntoTheLastPivotAndThePivotsInOrder)
               static_cast<float>(-infinity));
 }
 
+template <typename T>
+void goesOnAfterASingularMatrix()
+{
+    for (const std::string& layout : layoutsOf("ma")) {
+        Objects<T> src(layout, 2, 3);
+        src.set(0, {2, 0, 0, 3});
+        src.set(1, {1, 1, 1, 1});
+        src.set(2, {1, 2, 4, 4}); // below the pivot 4 there is 2 - 4 / 4
+        char buffer[4 * sizeof(T) + 2 * 4];
+        T dst[4] = {9, 9, 9, 9};
+        Arguments arguments;
+        src.addTo(arguments, true);
+        arguments.insert(arguments.end(), {word(2), pointer(buffer), pointer(dst), word(3)});
+        const std::string name = "tenkDet_ma_" + typeName<T>() + layout;
+        EXPECT_EQ(callByName(name, arguments), tenkOk) << name;
+        EXPECT_EQ(std::vector<T>(dst, dst + 4), (std::vector<T>{6, 0, -4, 9})) << name;
+    }
+}
 TEST(Det, GoesOnAfterASingularMatrix)
 {
-    const float m[3][4] = {{2, 0, 0, 3}, {1, 1, 1, 1}, {1, 2, 3, 4}};
-    char buffer[4 * 4 + 2 * 4];
-    float dst[4] = {9, 9, 9, 9};
-    EXPECT_EQ(tenkDet_ma_32f(m[0], 16, 8, 2, buffer, dst, 3), tenkOk);
-    EXPECT_EQ(dst[0], 6.0F);
-    EXPECT_EQ(dst[1], 0.0F);
-    EXPECT_FLOAT_EQ(dst[2], -2.0F);
-    EXPECT_EQ(dst[3], 9.0F);
+    goesOnAfterASingularMatrix<float>();
+    goesOnAfterASingularMatrix<double>();
 }
 
 TEST(Det, WritesOneBeforeItReads)

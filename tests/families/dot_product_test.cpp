@@ -253,26 +253,65 @@ TEST(DotProduct, OfElevenElementsFourBytesAboveABoundaryHasThreeInFrontOfOneBloc
     EXPECT_EQ(s, big + 4);
 }
 
-TEST(DotProduct, WithASecondVectorAtAnOddAddressIsTheSumInOrder)
+// A large number and ones: in order every 1 is lost, in blocks those of the other lanes meet first.
+template <typename T>
+void checkOddAddresses(tenkStatus (*function)(const T*, const T*, T*, std::uint32_t), T big)
 {
-    const float big = 16777216;
-    const float x[8] = {big, 1, 0, 0, 0, 1, 0, 0};
-    alignas(16) char memory[48];
-    const float ones[8] = {1, 1, 1, 1, 1, 1, 1, 1};
-    std::memcpy(memory + 1, ones, sizeof ones);
-    float s = 0;
-    EXPECT_EQ(tenkDotProduct_vv_32f(
-                  x, reinterpret_cast<const float*>(reinterpret_cast<std::uintptr_t>(memory) + 1), &s, 8),
-              tenkOk);
-    EXPECT_EQ(s, big);
+    alignas(16) char memory[16 + 100 * sizeof(T)];
+    for (unsigned length : {8U, 16U, 19U, 100U})
+        for (unsigned above = 0; above < 16; ++above) {
+            std::vector<T> x(length, T(1));
+            x[0] = big;
+            const std::vector<T> ones(length, T(1));
+            std::memcpy(memory + above, ones.data(), length * sizeof(T));
+            const auto* const src2 =
+                reinterpret_cast<const T*>(reinterpret_cast<std::uintptr_t>(memory) + above);
+            T s = 0;
+            EXPECT_EQ(function(x.data(), src2, &s, length), tenkOk);
+            if (above % sizeof(T) != 0) {
+                EXPECT_EQ(s, big) << length << " elements " << above << " above a boundary";
+            } else if (above == 0) {
+                EXPECT_GT(s, big) << length;
+            }
+        }
 }
 
-TEST(DotProduct, OfOneElementIsItsProduct)
+TEST(DotProduct, WithASecondVectorAtAnOddAddressIsTheSumInOrder)
 {
-    const float x = 3, y = -0.7F;
-    float s = 0;
-    EXPECT_EQ(tenkDotProduct_vv_32f(&x, &y, &s, 1), tenkOk);
-    EXPECT_EQ(s, 3 * -0.7F);
+    checkOddAddresses<float>(tenkDotProduct_vv_32f, 16777216);          // 2^24
+    checkOddAddresses<double>(tenkDotProduct_vv_64f, 9007199254740992); // 2^53
+}
+
+template <typename T>
+void checkOneElement(const std::string& codes, const std::string& layout)
+{
+    const unsigned count = codes == "vv" ? 1 : 5;
+    const std::string name = "tenkDotProduct_" + codes + "_" + typeName<T>() + layout;
+    auto a = vectors<T>(layout, codes != "vv", count, 1), b = vectors<T>(layout, codes == "vava", count, 1);
+    const auto results = [&](T x, T y) {
+        a.fill([&] { return x; }), b.fill([&] { return y; });
+        std::vector<T> dst(count, T(9));
+        Arguments sizes = {word(1)};
+        if (codes != "vv")
+            sizes.push_back(word(count));
+        EXPECT_EQ(callByName(name, {a.arguments(), b.arguments(), {pointer(dst.data())}, sizes}), tenkOk);
+        return dst;
+    };
+    for (T s : results(T(3), T(-0.7)))
+        EXPECT_EQ(s, T(3) * T(-0.7)) << name;
+    for (T s : results(T(-0.0), T(1))) { // +0 + -0
+        EXPECT_EQ(s, T(0)) << name;
+        EXPECT_FALSE(std::signbit(s)) << name;
+    }
+}
+
+TEST(DotProduct, OfOneElementIsItsProductAndMinusZeroBecomesPlusZero)
+{
+    for (const char* codes : {"vv", "vav", "vava"})
+        for (const std::string& layout : codes == std::string("vv") ? singleLayouts : arrayLayouts) {
+            checkOneElement<float>(codes, layout);
+            checkOneElement<double>(codes, layout);
+        }
 }
 
 // Behind the first block there are 2^31 - 8 zeros. With blocks the sum would be that of eight elements above,

@@ -101,13 +101,25 @@ TEST(FrobNorm, AddsOneMatrixByRowsAndArraysByColumns)
 
 TEST(FrobNorm, OfThreeRowsOfTwoDiffersBetweenOneMatrixAndAnArray)
 {
-    // In order 2^-24 is lost against 1 each time; the two in column 0 meet first if columns come first.
-    const float tiny = 0x1p-12F, x[] = {tiny, 1, tiny, 0, 0, 0};
-    float one = 0, array = 0;
-    EXPECT_EQ(tenkFrobNorm_m_32f(x, 8, 2, 3, &one), tenkOk);
-    EXPECT_EQ(tenkFrobNorm_ma_32f(x, 24, 8, 2, 3, &array, 1), tenkOk);
-    EXPECT_EQ(one, 1.0F);
-    EXPECT_EQ(array, std::sqrt(1.0F + 0x1p-23F));
+    // Row by row the square of `tiny`, at most half a unit in the last place of 1.5^2 = 2.25, is lost twice.
+    // Column by column both meet first and raise 2.25 by a unit u, and the root by u / 3: more than half a
+    // unit of 1.5, which is u / 2.
+    const auto check = [](auto unit, auto tiny) {
+        using T = decltype(unit);
+        const T x[] = {tiny, T(1.5), tiny, 0, 0, 0};
+        for (const std::string& layout : arrayLayouts) {
+            const bool single = layout == "" || layout == "_S2" || layout == "_P";
+            auto a = matrices<T>(layout, true, 1, 3, 2), b = matrices<T>(layout, false, 1, 3, 2);
+            for (unsigned e = 0; e < 6; ++e)
+                a.at(0, e / 2, e % 2) = b.at(0, e / 2, e % 2) = x[e];
+            EXPECT_EQ(norms<T>(true, 0, layout, a, 2, 3, 1)[0], T(1.5) + unit) << layout;
+            if (single) {
+                EXPECT_EQ(norms<T>(false, 0, layout, b, 2, 3, 1)[0], T(1.5)) << layout;
+            }
+        }
+    };
+    check(0x1p-23F, 1.25F * 0x1p-12F); // u = 2^-22, the squares are 25 / 32 of 2^-23
+    check(0x1p-52, 0x1p-26);           // u = 2^-51, the squares are 2^-52: a tie, to the even 2.25
 }
 
 // ---------------------------------------------------------------------------------------------------------------
@@ -242,12 +254,15 @@ TEST(FrobNorm, OfAnArrayDoesNotDependOnThePlaceOfAnObject)
 
 TEST(FrobNorm, TakesTheFifthOfFiveObjectsByTheSameFormula)
 {
-    Floats x;
-    for (int k = 0; k < 5; ++k)
-        x.insert(x.end(), {1, 2, 3, 4, 5, 6, 7, 8, 9});
+    // x is looked for: the five steps and the root must differ for nine x^2, exact in any order.
+    float x = 1;
+    while (x < 1024 && fiveSteps(9 * x * x) == 3 * x)
+        x += 1;
+    ASSERT_LT(x, 1024);
+    const float norm = fiveSteps(9 * x * x);
+    const Floats objects(45, x);
     Floats batch(6, 9);
-    EXPECT_EQ(tenkFrobNorm_ma_32f_3x3(x.data(), 36, 12, batch.data(), 5), tenkOk);
-    const float norm = fiveSteps(285); // 1 + 4 + 9 + ... + 81, exact in any order
+    EXPECT_EQ(tenkFrobNorm_ma_32f_3x3(objects.data(), 36, 12, batch.data(), 5), tenkOk);
     EXPECT_EQ(batch, (Floats{norm, norm, norm, norm, norm, 9}));
 }
 
@@ -255,9 +270,21 @@ TEST(FrobNorm, TakesTheFifthOfFiveObjectsByTheSameFormula)
 // Special values
 // ---------------------------------------------------------------------------------------------------------------
 
+// Calls check(zero of the type, array, size, layout) for every member.
+template <typename F>
+void eachMember(F check)
+{
+    for (bool array : {false, true})
+        for (unsigned size : {0U, 3U, 4U, 5U, 6U})
+            for (const std::string& layout : array ? arrayLayouts : singleLayouts) {
+                check(0.0F, array, size, layout);
+                check(0.0, array, size, layout);
+            }
+}
+
 TEST(FrobNorm, OfAZeroMatrixIsNaNByTheEstimateAndZeroOtherwise)
 {
-    const auto check = [&]<typename T>(T zero, bool array, unsigned size, const std::string& layout) {
+    eachMember([]<typename T>(T zero, bool array, unsigned size, const std::string& layout) {
         const unsigned order = size == 0 ? 4 : size, count = array ? 5 : 1;
         auto a = matrices<T>(layout, array, count, order, order);
         a.fill([=] { return zero; });
@@ -269,42 +296,43 @@ TEST(FrobNorm, OfAZeroMatrixIsNaNByTheEstimateAndZeroOtherwise)
                 EXPECT_FALSE(std::signbit(x));
             }
         }
-    };
-    for (bool array : {false, true})
-        for (unsigned size : {0U, 3U, 4U, 5U, 6U})
-            for (const std::string& layout : array ? arrayLayouts : singleLayouts) {
-                check(0.0F, array, size, layout);
-                check(0.0, array, size, layout);
-            }
+    });
 }
 
 TEST(FrobNorm, OfASingleOneIsExactlyOneButForTheEstimate)
 {
-    Floats x(36);
-    std::vector<double> y(36);
-    x[3] = 1, y[3] = 1;
-    float s = 0;
-    double d = 0;
-    EXPECT_EQ(tenkFrobNorm_m_32f(x.data(), 12, 3, 3, &s), tenkOk);
-    EXPECT_EQ(s, 1.0F);
-    EXPECT_EQ(tenkFrobNorm_ma_32f_3x3_S2(x.data(), 0, 12, 4, &s, 1), tenkOk);
-    EXPECT_EQ(s, 1.0F);
-    EXPECT_EQ(tenkFrobNorm_m_64f_5x5(y.data(), 40, &d), tenkOk);
-    EXPECT_EQ(d, 1.0);
-    EXPECT_EQ(tenkFrobNorm_m_32f_3x3(x.data(), 12, &s), tenkOk);
-    EXPECT_EQ(s, fiveSteps(1));
-    EXPECT_EQ(tenkFrobNorm_ma_32f_6x6(x.data(), 0, 24, &s, 1), tenkOk);
-    EXPECT_EQ(s, fiveSteps(1));
+    eachMember([]<typename T>(T, bool array, unsigned size, const std::string& layout) {
+        const unsigned order = size == 0 ? 4 : size, count = array ? 5 : 1;
+        const bool estimate = sizeof(T) == 4 && size != 0 && (layout.empty() || layout == "_L");
+        for (unsigned place = 0; place < order * order; ++place) {
+            auto a = matrices<T>(layout, array, count, order, order);
+            a.fill([] { return T(0); });
+            for (unsigned k = 0; k < count; ++k)
+                a.at(k, place / order, place % order) = 1;
+            for (T x : norms<T>(array, size, layout, a, order, order, count))
+                EXPECT_EQ(x, estimate ? static_cast<T>(fiveSteps(1)) : T(1))
+                    << nameOf<T>(array, size, layout);
+        }
+    });
 }
 
-TEST(FrobNorm, OfOneElementIsItsMagnitude)
+TEST(FrobNorm, OfOneElementIsItsMagnitudeUnlessTheSquareIsOutOfRange)
 {
-    const float x = -0.7F;
-    float s = 0;
-    EXPECT_EQ(tenkFrobNorm_m_32f(&x, 4, 1, 1, &s), tenkOk);
-    EXPECT_EQ(s, 0.7F);
-    EXPECT_EQ(tenkFrobNorm_ma_32f(&x, 4, 4, 1, 1, &s, 1), tenkOk);
-    EXPECT_EQ(s, 0.7F);
+    eachMember([]<typename T>(T, bool array, unsigned size, const std::string& layout) {
+        if (size != 0)
+            return;
+        const auto norm = [&](T x) {
+            auto a = matrices<T>(layout, array, 3, 1, 1);
+            a.fill([=] { return x; });
+            return norms<T>(array, 0, layout, a, 1, 1, array ? 3 : 1).back();
+        };
+        for (int n = 1; n < 50; ++n) {
+            EXPECT_EQ(norm(T(n) / T(7)), T(n) / T(7)) << nameOf<T>(array, 0, layout);
+            EXPECT_EQ(norm(T(-n) / T(11)), T(n) / T(11)) << nameOf<T>(array, 0, layout);
+        }
+        EXPECT_EQ(norm(std::numeric_limits<T>::max()), std::numeric_limits<T>::infinity());
+        EXPECT_EQ(norm(std::numeric_limits<T>::min()), T(0));
+    });
 }
 
 TEST(FrobNorm, OfAnOverflowIsInfiniteAndByTheEstimateNaN)

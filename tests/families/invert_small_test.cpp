@@ -258,6 +258,24 @@ TEST(InvertSmall, OfScalarOrder4LeavesTheCofactorsOfASingularMatrix)
     });
 }
 
+// One NaN, in the last place: the determinant of the whole or of the second block is a NaN and so is all that
+// is multiplied by its reciprocal, which is every element.
+TEST(InvertSmall, OfScalarMembersANaNInTheDeterminantPassesTheBand)
+{
+    for (std::size_t n = 3; n <= 6; ++n) {
+        Matrix d(n, 1);
+        d[n - 1] = aNaN;
+        eachMember(Class::scalar, [&](const Member& m) {
+            const Result<float> r = invert<float>(m, diagonal(d), n);
+            const Result<double> s = invert<double>(m, diagonal(d), n);
+            EXPECT_EQ(r.status, tenkOk) << m.name<float>(n);
+            EXPECT_EQ(s.status, tenkOk) << m.name<double>(n);
+            for (std::size_t e = 0; e < n * n; ++e)
+                EXPECT_TRUE(std::isnan(r.inverse[e]) && std::isnan(s.inverse[e])) << m.name<float>(n) << e;
+        });
+    }
+}
+
 TEST(InvertSmall, LetsNaNThroughEveryMember)
 {
     for (std::size_t n = 3; n <= 6; ++n)
@@ -502,6 +520,33 @@ Matrix numbersWithRow0(std::size_t n, const Matrix& row0)
     Matrix a = wellConditioned(n, random);
     std::copy(row0.begin(), row0.end(), a.begin());
     return a;
+}
+
+template <typename T>
+void largestInColumn3()
+{
+    // y0 = 2 x3 + x4, y1 = 4 x1, y2 = 8 x2, y3 = 16 x0, y4 = x4: powers of two, so all is exact.
+    const Matrix a = {0,  0, 0, 2, 1, //
+                      0,  4, 0, 0, 0, //
+                      0,  0, 8, 0, 0, //
+                      16, 0, 0, 0, 0, //
+                      0,  0, 0, 0, 1};
+    const Matrix inverse = {0,   0,    0,     0.0625, 0,    //
+                            0,   0.25, 0,     0,      0,    //
+                            0,   0,    0.125, 0,      0,    //
+                            0.5, 0,    0,     0,      -0.5, //
+                            0,   0,    0,     0,      1};
+    const std::vector<T> expected(inverse.begin(), inverse.end());
+    eachMember(Class::scalar, [&](const Member& m) {
+        const Result<T> r = invert<T>(m, a, 5);
+        EXPECT_EQ(r.status, tenkOk) << m.name<T>(5);
+        EXPECT_EQ(r.inverse, expected) << m.name<T>(5);
+    });
+}
+TEST(InvertSmall, OfScalarOrder5ExchangesTheRowsOfTheResultForAPivotInColumn3)
+{
+    largestInColumn3<float>();
+    largestInColumn3<double>();
 }
 
 TEST(InvertSmall, OfScalarMembersTakesTheLargestOfRow0TheFirstOfEquals)

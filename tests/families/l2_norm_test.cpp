@@ -118,26 +118,38 @@ TEST(L2Norm, AddsAndTakesTheRootInTheWayOfEachMember)
             }
 }
 
+template <typename T>
+void checkZero(bool array, unsigned size, const std::string& layout)
+{
+    const unsigned count = array ? 5 : 1, length = size == 0 ? 3 : size;
+    const std::string name = nameOf<T>(array, size, layout);
+    auto a = vectors<T>(layout, array, count, length);
+    a.fill([] { return T(0); });
+    std::vector<T> dst(count, T(9));
+    Arguments sizes;
+    if (size == 0)
+        sizes.push_back(word(length));
+    if (array)
+        sizes.push_back(word(count));
+    EXPECT_EQ(callByName(name, {a.arguments(), {pointer(dst.data())}, sizes}), tenkOk) << name;
+    const bool estimate = sizeof(T) == 4 && size != 0 && (layout.empty() || layout == "_L");
+    for (T x : dst) {
+        EXPECT_EQ(std::isnan(x), estimate) << name;
+        if (!estimate) {
+            EXPECT_EQ(x, T(0)) << name;
+            EXPECT_FALSE(std::signbit(x)) << name;
+        }
+    }
+}
+
 TEST(L2Norm, OfAZeroVectorIsNaNByTheEstimateAndZeroOtherwise)
 {
-    const float zeros[8] = {};
-    const double doubles[3] = {};
-    float s = 9;
-    double d = 9;
-    EXPECT_EQ(tenkL2Norm_v_32f_3x1(zeros, &s), tenkOk);
-    EXPECT_TRUE(std::isnan(s));
-    EXPECT_EQ(tenkL2Norm_v_32f_3x1_S2(zeros, 4, &s), tenkOk);
-    EXPECT_EQ(s, 0.0F);
-    EXPECT_EQ(tenkL2Norm_v_64f_3x1(doubles, &d), tenkOk);
-    EXPECT_EQ(d, 0.0);
-    s = 9;
-    EXPECT_EQ(tenkL2Norm_v_32f(zeros, &s, 3), tenkOk);
-    EXPECT_EQ(s, 0.0F);
-    Floats batch(5, 9);
-    const Floats fifteen(15, 0);
-    EXPECT_EQ(tenkL2Norm_va_32f_3x1(fifteen.data(), 12, batch.data(), 5), tenkOk);
-    for (float x : batch)
-        EXPECT_TRUE(std::isnan(x));
+    for (bool array : {false, true})
+        for (unsigned size : {0U, 3U, 4U, 5U, 6U})
+            for (const std::string& layout : array ? arrayLayouts : singleLayouts) {
+                checkZero<float>(array, size, layout);
+                checkZero<double>(array, size, layout);
+            }
 }
 
 TEST(L2Norm, OfAnInfiniteSumIsNaNByTheEstimateAndInfiniteOtherwise)
@@ -169,14 +181,17 @@ TEST(L2Norm, OfThreeAndFourIsFiveOnlyNearlyByTheEstimate)
 
 TEST(L2Norm, TakesTheFifthOfFiveObjectsByTheSameFormula)
 {
-    Floats x;
+    float x = 1; // is looked for: the five steps and the root must differ
+    while (x < 4 && fiveSteps(x * x + 1) == std::sqrt(x * x + 1))
+        x = std::nextafter(x, 4.0F);
+    ASSERT_LT(x, 4.0F);
+    Floats vectors;
     for (int k = 0; k < 5; ++k)
-        x.insert(x.end(), {1.1F, 2.2F, 3.3F});
-    Floats batch(5);
-    float one = 0;
-    EXPECT_EQ(tenkL2Norm_va_32f_3x1(x.data(), 12, batch.data(), 5), tenkOk);
-    EXPECT_EQ(tenkL2Norm_v_32f_3x1(x.data(), &one), tenkOk);
-    EXPECT_EQ(batch, Floats(5, one));
+        vectors.insert(vectors.end(), {x, 1, 0});
+    Floats batch(6, 9);
+    EXPECT_EQ(tenkL2Norm_va_32f_3x1(vectors.data(), 12, batch.data(), 5), tenkOk);
+    const float norm = fiveSteps(x * x + 1);
+    EXPECT_EQ(batch, (Floats{norm, norm, norm, norm, norm, 9}));
 }
 
 // 1 and 2^-24 each as a square: 2^-12 squared is lost against 1 unless two of them meet first.
@@ -189,6 +204,7 @@ TEST(L2Norm, OfFour32fElementsDiffersBetweenOneVectorAndAnArray)
     EXPECT_EQ(tenkL2Norm_va_32f_4x1(x, 16, &array, 1), tenkOk);
     EXPECT_EQ(one, fiveSteps(1.0F + 0x1p-23F));
     EXPECT_EQ(array, fiveSteps(1.0F));
+    EXPECT_NE(one, array);
 }
 
 // What is promised of the blocks, lane by lane.

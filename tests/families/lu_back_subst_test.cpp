@@ -81,7 +81,7 @@ struct Call
         src2At = all.size();
         src2.pass(all);
         dstAt = all.size();
-        dst.pass(all);
+        (inPlace ? src2 : dst).pass(all);
         orderAt = all.size();
         if (!fixed)
             addWord(all, static_cast<std::uint32_t>(n));
@@ -127,6 +127,7 @@ struct Call
     std::size_t n, count;
     Operand<T> src1, src2, dst;
     Rows rowIndex;
+    bool inPlace = false;
     std::size_t rowIndexAt = 0, src2At = 0, dstAt = 0, orderAt = 0;
 };
 
@@ -222,8 +223,7 @@ TYPED_TEST(LUBackSubst, AFactorMayBeReadInAnyLayoutAndSolvesTheSystem)
                     if (stepsByFourBytes<T>(code, read) || (code == Code::mv && !existsForOne(read)))
                         continue;
                     const std::size_t n = fixed ? fixed : 5, count = code == Code::mava ? 5 : 1;
-                    Operand<T> a(written, true, false, n, n, count, n * count),
-                        d = Operand<T>(written, true, false, n, n, count, n * count);
+                    Operand<T> a(written, true, false, n, n, count, n * count);
                     Call<T> call(code, fixed, read, n, 5);
                     call.fill(random);
                     for (std::size_t k = 0; k < count; ++k)
@@ -242,6 +242,13 @@ TYPED_TEST(LUBackSubst, AFactorMayBeReadInAnyLayoutAndSolvesTheSystem)
                     ASSERT_EQ(call.run(), tenkOk) << call.name;
                     for (std::size_t k = 0; k < call.dst.count; ++k) {
                         const std::size_t matrix = code == Code::mava ? k : 0;
+                        // The same x to the bit as from the layout in which the factor was written.
+                        const auto factor = [&](std::size_t i, std::size_t j) {
+                            return out.get(matrix, i, j);
+                        };
+                        ASSERT_TRUE(same(call.dst.object(k),
+                                         solutionOf<T>(factor, call.rowsOf(k), call.src2.object(k))))
+                            << call.name << " written in " << suffix(written);
                         double scale = 1;
                         for (std::size_t j = 0; j < n; ++j)
                             scale = std::max(scale, double(std::abs(call.dst.get(k, 0, j))));
@@ -310,13 +317,22 @@ TEST(LUBackSubstArithmetic, SumsStartAtPlusZero)
 // The documented edge cases
 // ---------------------------------------------------------------------------------------------------------------
 
-TEST(LUBackSubstEdges, ASystemOfOrder1IsOneDivision)
+TYPED_TEST(LUBackSubst, ASystemOfOrder1IsOneDivision)
 {
-    const float f = 3, b = 2;
-    const std::uint32_t r = 0;
-    float x = 0;
-    EXPECT_EQ(tenkLUBackSubst_mv_32f(&f, 4, &r, &b, &x, 1), tenkOk);
-    EXPECT_EQ(x, 2.0F / 3.0F);
+    using T = TypeParam;
+    eachCall<T>([&](auto& call) {
+        if (call.n != 1)
+            return;
+        for (std::size_t k = 0; k < call.src1.count; ++k) {
+            call.src1.set(k, 0, 0, T(3));
+            call.rowIndex[k] = 0;
+        }
+        for (std::size_t k = 0; k < call.src2.count; ++k)
+            call.src2.set(k, 0, 0, T(k) + 2);
+        EXPECT_EQ(call.run(), tenkOk) << call.name;
+        for (std::size_t k = 0; k < call.dst.count; ++k)
+            EXPECT_EQ(call.dst.get(k, 0, 0), (T(k) + 2) / T(3)) << call.name << " object " << k;
+    });
 }
 
 TYPED_TEST(LUBackSubst, InPlaceIsRightWithTheIdentityAndReadsWhatItWroteOtherwise)
@@ -340,6 +356,35 @@ TYPED_TEST(LUBackSubst, InPlaceIsRightWithTheIdentityAndReadsWhatItWroteOtherwis
     ASSERT_EQ(solve(exchanged, crossed, b), tenkOk);
     const T spread[16] = {2, 2, 3, 4, 6, 6, 7, 8, 2, 2, 3, 4, 6, 6, 7, 8};
     EXPECT_TRUE(std::equal(b, b + 16, spread));
+}
+
+TYPED_TEST(LUBackSubst, EveryMemberWritesThroughTheRightHandSideInPlace)
+{
+    // The factor is the identity with its first two rows exchanged, or not: with rows 1 0 2 x[0] = b[1] is
+    // written before x[1] = b[0] is read, so both are b[1].
+    using T = TypeParam;
+    eachCall<T>([&](auto& call) {
+        if (call.n != 3 || stepsByFourBytes<T>(call.code, call.form))
+            return;
+        call.inPlace = true;
+        for (bool exchanged : {false, true}) {
+            for (std::size_t k = 0; k < call.src1.count; ++k)
+                for (std::size_t i = 0; i < 3; ++i) {
+                    const std::size_t row = exchanged && i < 2 ? 1 - i : i;
+                    call.rowIndex[k * 3 + i] = static_cast<std::uint32_t>(row);
+                    for (std::size_t j = 0; j < 3; ++j)
+                        call.src1.set(k, row, j, i == j ? 1 : 0);
+                }
+            for (std::size_t k = 0; k < call.src2.count; ++k)
+                call.src2.setObject(k, {T(10 * k + 1), T(10 * k + 2), T(10 * k + 3)});
+            ASSERT_EQ(call.run(), tenkOk) << call.name;
+            for (std::size_t k = 0; k < call.src2.count; ++k) {
+                const std::vector<T> expected = {T(10 * k + (exchanged ? 2 : 1)), T(10 * k + 2),
+                                                 T(10 * k + 3)};
+                EXPECT_TRUE(same(call.src2.object(k), expected)) << call.name << " object " << k;
+            }
+        }
+    });
 }
 
 TYPED_TEST(LUBackSubst, ADestinationOverLaterRightHandSidesIsReadAsWritten)

@@ -328,26 +328,35 @@ TYPED_TEST(LUDecomp, ALongPackedBatchEqualsItsSingleMatrices)
 // The documented edge cases
 // ---------------------------------------------------------------------------------------------------------------
 
-TEST(LUDecompEdges, AOneByOneMatrixIsItsPivotAndIsCopiedEitherWay)
+TYPED_TEST(LUDecomp, AOneByOneMatrixIsItsPivotAndIsCopiedEitherWay)
 {
-    const float floor = 0x1p-23F;
-    for (float a : {floor, -floor, 5.0F, std::nextafter(floor, 0.0F), 0.0F, -1e-8F, NAN}) {
-        float d = 99;
-        std::uint32_t r = 99;
-        EXPECT_EQ(tenkLUDecomp_m_32f(&a, 4, &r, &d, 4, 1), std::abs(a) >= floor ? tenkOk : tenkSingularError)
-            << a;
-        EXPECT_EQ(r, 0U);
-        EXPECT_TRUE(same(d, a));
-    }
-    for (double a : {0x1p-23, -0x1p-23, std::nextafter(0x1p-23, 0.0), 1e-8}) {
-        double d = 99;
-        std::uint32_t r = 99;
-        EXPECT_EQ(tenkLUDecomp_m_64f(&a, 8, &r, &d, 8, 1),
-                  std::abs(a) >= 0x1p-23 ? tenkOk : tenkSingularError)
-            << a;
-        EXPECT_EQ(r, 0U);
-        EXPECT_EQ(d, a);
-    }
+    using T = TypeParam;
+    const T floor = 0x1p-23F, below = std::nextafter(floor, T{0});
+    const struct
+    {
+        T element;
+        tenkStatus status;
+    } cases[] = {{floor, tenkOk},
+                 {-floor, tenkOk},
+                 {5, tenkOk},
+                 {std::numeric_limits<T>::infinity(), tenkOk},
+                 {below, tenkSingularError},
+                 {-below, tenkSingularError},
+                 {T(1e-8), tenkSingularError},
+                 {0, tenkSingularError},
+                 {std::numeric_limits<T>::quiet_NaN(), tenkSingularError}};
+    eachCall<T>([&](auto& call, bool) {
+        if (call.n != 1)
+            return;
+        for (const auto& c : cases) {
+            std::fill(call.rowIndex.begin(), call.rowIndex.end(), 77U);
+            for (std::size_t k = 0; k < call.count; ++k)
+                call.src.setObject(k, {k == 0 ? c.element : T{1}});
+            EXPECT_EQ(call.run(), c.status) << call.name << " of " << c.element;
+            EXPECT_EQ(call.rowIndex[0], 0U) << call.name << " of " << c.element;
+            EXPECT_TRUE(same(call.dst.get(0, 0, 0), c.element)) << call.name << " of " << c.element;
+        }
+    });
 }
 
 TYPED_TEST(LUDecomp, TheLastPivotMayBeTheFloorAndNotSmaller)

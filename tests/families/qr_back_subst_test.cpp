@@ -243,18 +243,24 @@ TYPED_TEST(QRBackSubst, TheDestinationMayBeTheRightHandSide)
     });
 }
 
+// The first whole number whose third is not its product with 1/3.
+template <typename T>
+T numberThatShowsTheDivision()
+{
+    const volatile T third = T{1} / 3;
+    for (T x = 1;; x += 1) {
+        const volatile T product = x * third, quotient = x / 3;
+        if (product != quotient)
+            return x;
+    }
+}
+
 // b / 3 and b (1 / 3) differ for some b; diagonal factors show which form a member has.
 TYPED_TEST(QRBackSubst, EightGeneralMembersOfATypeMultiplyByTheReciprocalAndAllOthersDivide)
 {
     using T = TypeParam;
-    T x = 1;
-    const volatile T third = T{1} / 3;
-    for (;; x += 1) {
-        const volatile T product = x * third, quotient = x / 3;
-        if (product != quotient)
-            break;
-    }
-    const volatile T product = x * third, quotient = x / 3;
+    const T x = numberThatShowsTheDivision<T>();
+    const volatile T third = T{1} / 3, product = x * third, quotient = x / 3;
     std::vector<std::string> multiplying;
     eachCall<T>([&](auto& call) {
         if (standsApart<T>(call.code, call.form) || call.w != call.h)
@@ -428,18 +434,43 @@ TYPED_TEST(QRBackSubst, AFactorMayBeReadInAnyLayoutAndGivesTheLeastSquares)
 // The documented edge cases
 // ---------------------------------------------------------------------------------------------------------------
 
-TEST(QRBackSubstEdges, OneByOneAppliesNoReflector)
+TYPED_TEST(QRBackSubst, OneByOneAppliesNoReflector)
 {
-    const float f = 3, b = 5;
-    const float* const table[1] = {&f};
-    const float* const bTable[1] = {&b};
-    float x = 0, buffer = 0;
-    float* const xTable[1] = {&x};
-    EXPECT_EQ(tenkQRBackSubst_mv_32f(&f, 4, &buffer, &b, &x, 1, 1), tenkOk);
-    const volatile float third = 1 / f;
-    EXPECT_EQ(x, b * third);
-    EXPECT_EQ(tenkQRBackSubst_mv_32f_P(table, 0, &buffer, bTable, 0, xTable, 0, 1, 1), tenkOk);
-    EXPECT_EQ(x, b / f);
+    using T = TypeParam;
+    const T b = numberThatShowsTheDivision<T>();
+    const volatile T third = T{1} / 3, product = b * third, quotient = b / 3;
+    eachCall<T>([&](auto& call) {
+        if (call.w != 1 || call.h != 1 || stepsByOneByte<T>(call.code, call.form))
+            return;
+        for (std::size_t k = 0; k < call.src1.count; ++k)
+            call.src1.set(k, 0, 0, T(3));
+        for (std::size_t k = 0; k < call.src2.count; ++k)
+            call.src2.set(k, 0, 0, b);
+        EXPECT_EQ(call.run(), tenkOk) << call.name;
+        const T expected = multiplies(call.code, call.fixed, call.form) ? product : quotient;
+        for (std::size_t k = 0; k < call.dst.count; ++k)
+            EXPECT_EQ(call.dst.get(k, 0, 0), expected) << call.name << " object " << k;
+        EXPECT_TRUE(same(call.buffer, {b, 77})) << call.name; // a reflector would have turned its sign
+    });
+}
+
+TYPED_TEST(QRBackSubst, TheBufferIsAsLongAsAColumnHoweverManyObjectsThereAre)
+{
+    // Between memory that must not be touched: behind the buffer it cannot even be read.
+    using T = TypeParam;
+    const PageEnd memory;
+    std::mt19937 random(8);
+    eachCall<T>([&](auto& call) {
+        call.fill(random);
+        T* const buffer = memory.last<T>(call.h);
+        buffer[-1] = T(55);
+        Arguments all = call.arguments();
+        all[call.bufferAt].bits = reinterpret_cast<std::uintptr_t>(buffer);
+        ASSERT_EQ(callByName(call.name, all), tenkOk) << call.name;
+        EXPECT_EQ(buffer[-1], T(55)) << call.name;
+        for (std::size_t k = 0; k < call.dst.count; ++k)
+            ASSERT_TRUE(same(call.dst.object(k), call.expected(k).x)) << call.name << " object " << k;
+    });
 }
 
 TEST(QRBackSubstEdges, OneColumnOfThreeRowsIsOneReflectorAndOneDivision)
@@ -471,6 +502,13 @@ TYPED_TEST(QRBackSubst, AZeroLastDiagonalElementGivesInfinitiesAndNaNsWithOk)
             EXPECT_TRUE(std::isnan(call.dst.get(k, 0, 1))) << call.name; // 0 x infinity in the sum
             EXPECT_TRUE(std::isnan(call.dst.get(k, 0, 0))) << call.name;
         }
+        // A zero over zero, or times an infinite reciprocal.
+        for (std::size_t k = 0; k < call.src2.count; ++k)
+            call.src2.setObject(k, {1, 1, 0});
+        ASSERT_EQ(call.run(), tenkOk) << call.name;
+        for (std::size_t k = 0; k < call.dst.count; ++k)
+            for (std::size_t j = 0; j < 3; ++j)
+                EXPECT_TRUE(std::isnan(call.dst.get(k, 0, j))) << call.name << j;
     });
 }
 

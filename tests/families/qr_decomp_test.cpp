@@ -476,18 +476,28 @@ TYPED_TEST(QRDecomp, MoreColumnsThanRowsEndsAsSingularAtTheFirstColumnWithoutRow
         }
 }
 
-TYPED_TEST(QRDecomp, BelowALowerTriangleOfVectorsNothingElseIsStored)
+TYPED_TEST(QRDecomp, RowsBehindTheLastColumnHoldComponentsOfVectorsAlone)
 {
-    // Two columns, five rows: rows 2 to 4 hold components of both vectors, and all are needed to get the
-    // source back.
-    std::mt19937 random(7);
-    Call<TypeParam> call(false, {0, 2, 5}, Form::standard, 1);
-    call.src.setObject(0, randomElements<TypeParam>(random, 10));
-    ASSERT_EQ(call.run(), tenkOk);
-    for (std::size_t i = 1; i < 5; ++i)
-        for (std::size_t j = 0; j < std::min<std::size_t>(i, 2); ++j)
-            EXPECT_LE(std::abs(call.dst.get(0, i, j)), 1.5) << i << j;
-    EXPECT_EQ(call.dst.get(0, 4, 1), call.buffer[4]);
+    // Column 0 is (0, 2, 2, 2, 2, 0) of norm 4: g = -4, c = -1/4, v = (1, -1/2, -1/2, -1/2, -1/2, 0), t = -1.
+    // Column 1 has e = (3 - (1 + 3 + 3 + 3) / 2) (-1) = 2 and becomes (5, 0, 2, 2, 2, 2), which from row 1 on
+    // is like column 0. So R = (4, 5; 0, 4), and the rows from 2 on hold -1/2 or 0.
+    using T = TypeParam;
+    const std::vector<T> source = {0, 3, 2, 1, 2, 3, 2, 3, 2, 3, 0, 2};
+    const T half = T(-0.5);
+    const std::vector<T> expected = {4, 5, half, 4, half, half, half, half, half, half, 0, half};
+    for (Form form : forms)
+        for (bool batch : {false, true}) {
+            if (!batch && !existsForOne(form))
+                continue;
+            Call<T> call(batch, {0, 2, 6}, form, batch ? 3 : 1);
+            for (std::size_t k = 0; k < call.count; ++k)
+                call.src.setObject(k, source);
+            ASSERT_EQ(call.run(), tenkOk) << call.name;
+            for (std::size_t k = 0; k < call.count; ++k)
+                for (std::size_t e = 0; e < 12; ++e)
+                    EXPECT_EQ(call.dst.get(k, e / 2, e % 2), expected[e]) << call.name << " element " << e;
+            EXPECT_TRUE(same(call.buffer, {1, 1, half, half, half, half, 77})) << call.name;
+        }
 }
 
 TYPED_TEST(QRDecomp, NullComesBeforeSizeAndSizeBeforeCount)

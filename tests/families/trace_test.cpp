@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 #include <limits>
 #include <random>
+#include <sys/mman.h>
 #include <vector>
 
 #include "support/objects.h"
@@ -78,33 +79,127 @@ TEST(Trace, AddsTheDiagonalInOrderAndStartsFromZeroButForFixedSizesOfAdjacentEle
             }
 }
 
-TEST(Trace, OfOrderOneIsTheElementAndMinusZeroBecomesPlusZero)
+template <typename T>
+void checkOrderOne(bool array, const std::string& layout)
 {
-    float x = 3, t = 9;
-    EXPECT_EQ(tenkTrace_m_32f(&x, 4, 1, &t), tenkOk);
-    EXPECT_EQ(t, 3.0F);
-    x = -0.0F;
-    EXPECT_EQ(tenkTrace_m_32f(&x, 4, 1, &t), tenkOk);
-    EXPECT_EQ(bits(t), 0U);
+    const unsigned count = array ? 3 : 1;
+    const std::string name = nameOf<T>(array, 0, layout);
+    auto a = matrices<T>(layout, array, count, 1, 1);
+    const auto results = [&](T x) {
+        a.fill([=] { return x; });
+        std::vector<T> dst(count, T(9));
+        Arguments counts;
+        if (array)
+            counts.push_back(word(count));
+        EXPECT_EQ(callByName(name, {a.arguments(), {word(1), pointer(dst.data())}, counts}), tenkOk) << name;
+        return dst;
+    };
+    for (T t : results(T(-0.7)))
+        EXPECT_EQ(t, T(-0.7)) << name;
+    for (T t : results(T(-0.0))) { // 0 + -0
+        EXPECT_EQ(t, T(0)) << name;
+        EXPECT_FALSE(std::signbit(t)) << name;
+    }
 }
 
-TEST(Trace, PassesNaNsAndInfinitiesThroughAndReadsNothingBesideTheDiagonal)
+TEST(Trace, OfOrderOneIsTheElementAndMinusZeroBecomesPlusZero)
 {
-    const float nan = std::numeric_limits<float>::quiet_NaN();
-    const float x[] = {1, nan, nan, nan, 2, nan, nan, nan, 3}, y[] = {1, 0, 0, 0, nan, 0, 0, 0, 3};
-    float t = 9;
-    EXPECT_EQ(tenkTrace_m_32f_3x3(x, 12, &t), tenkOk);
-    EXPECT_EQ(t, 6.0F);
-    EXPECT_EQ(tenkTrace_m_32f(x, 12, 3, &t), tenkOk);
-    EXPECT_EQ(t, 6.0F);
-    EXPECT_EQ(tenkTrace_m_32f_3x3(y, 12, &t), tenkOk);
-    EXPECT_TRUE(std::isnan(t));
-    const float infinity = std::numeric_limits<float>::infinity();
-    const float z[] = {1, 0, 0, 0, infinity, 0, 0, 0, -3}, w[] = {infinity, 0, 0, -infinity};
-    EXPECT_EQ(tenkTrace_m_32f_3x3(z, 12, &t), tenkOk);
-    EXPECT_EQ(t, infinity);
-    EXPECT_EQ(tenkTrace_m_32f(w, 8, 2, &t), tenkOk);
-    EXPECT_TRUE(std::isnan(t));
+    for (bool array : {false, true})
+        for (const std::string& layout : array ? arrayLayouts : singleLayouts) {
+            checkOrderOne<float>(array, layout);
+            checkOrderOne<double>(array, layout);
+        }
+}
+
+// All that is beside the diagonal of 1, 2, 3, ... is a NaN; then elements of the diagonal are.
+template <typename T>
+void checkSpecialValues(bool array, unsigned size, const std::string& layout)
+{
+    const T infinity = std::numeric_limits<T>::infinity(), nan = std::numeric_limits<T>::quiet_NaN();
+    const unsigned count = array ? 3 : 1, order = size == 0 ? 7 : size;
+    const std::string name = nameOf<T>(array, size, layout);
+    auto a = matrices<T>(layout, array, count, order, order);
+    a.fill([=] { return nan; });
+    // With x in place p of the diagonal and y in the last.
+    const auto trace = [&](unsigned p, T x, T y) {
+        for (unsigned k = 0; k < count; ++k)
+            for (unsigned i = 0; i < order; ++i)
+                a.at(k, i, i) = i == p ? x : i + 1 == order ? y : T(i + 1);
+        std::vector<T> dst(count, T(9));
+        Arguments counts;
+        if (array)
+            counts.push_back(word(count));
+        EXPECT_EQ(callByName(name, {a.arguments(), sizes(size, order), {pointer(dst.data())}, counts}),
+                  tenkOk);
+        return dst[count / 2];
+    };
+    const T last = T(order), sum = T(order * (order + 1) / 2);
+    for (unsigned p = 0; p + 1 < order; ++p) {
+        EXPECT_EQ(trace(p, T(p + 1), last), sum) << name;
+        EXPECT_TRUE(std::isnan(trace(p, nan, last))) << name << p;
+        EXPECT_EQ(trace(p, infinity, last), infinity) << name << p;
+        EXPECT_EQ(trace(p, -infinity, last), -infinity) << name << p;
+        EXPECT_TRUE(std::isnan(trace(p, infinity, -infinity))) << name << p;
+    }
+}
+
+TEST(Trace, PassesNaNsAndInfinitiesOfTheDiagonalThroughAndNoOthers)
+{
+    for (bool array : {false, true})
+        for (unsigned size : {0U, 3U, 4U, 5U, 6U})
+            for (const std::string& layout : array ? arrayLayouts : singleLayouts) {
+                checkSpecialValues<float>(array, size, layout);
+                checkSpecialValues<double>(array, size, layout);
+            }
+}
+
+// Every second page can be read. Rows are two pages less an element apart, so that the diagonal goes along
+// the first elements of those pages, or the last: what stands on its left, or on its right, is in the others.
+template <typename T>
+void checkUnreadableNeighbours()
+{
+    constexpr std::size_t page = 4096, pages = 13;
+    char* const memory =
+        static_cast<char*>(mmap(nullptr, pages * page, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
+    ASSERT_NE(static_cast<void*>(memory), MAP_FAILED);
+    for (std::size_t p = 1; p < pages; p += 2)
+        ASSERT_EQ(mprotect(memory + p * page, page, PROT_READ | PROT_WRITE), 0);
+    for (const std::size_t first : {page, 2 * page - sizeof(T)}) {
+        for (std::size_t i = 0; i < 6; ++i)
+            *reinterpret_cast<T*>(memory + first + 2 * i * page) = T(i + 1);
+        const T* const src = reinterpret_cast<const T*>(memory + first);
+        const T* const list[] = {src, src};
+        const Argument row = word(2 * page - sizeof(T)), element = word(sizeof(T));
+        for (unsigned size : {0U, 3U, 4U, 5U, 6U}) {
+            const unsigned order = size == 0 ? 6 : size;
+            const T sum = T(order * (order + 1) / 2);
+            T t[2] = {T(9), T(9)};
+            const Argument dst = pointer(t);
+            const auto call = [&](bool array, const char* layout, const Arguments& a) {
+                t[0] = t[1] = T(9);
+                Arguments count;
+                if (array)
+                    count.push_back(word(2));
+                EXPECT_EQ(callByName(nameOf<T>(array, size, layout), {a, sizes(size, order), {dst}, count}),
+                          tenkOk);
+                EXPECT_EQ(t[0], sum) << nameOf<T>(array, size, layout);
+                EXPECT_EQ(t[1], array ? sum : T(9)) << nameOf<T>(array, size, layout);
+            };
+            call(false, "", {pointer(src), row});
+            call(false, "_S2", {pointer(src), row, element});
+            call(true, "", {pointer(src), word(0), row});
+            call(true, "_S2", {pointer(src), word(0), row, element});
+            call(true, "_L", {pointer(list), word(0), row});
+            call(true, "_LS2", {pointer(list), word(0), row, element});
+        }
+    }
+    munmap(memory, pages * page);
+}
+
+TEST(Trace, ReadsNothingBesideTheDiagonal)
+{
+    checkUnreadableNeighbours<float>();
+    checkUnreadableNeighbours<double>();
 }
 
 TEST(Trace, TestsPointersThenOrderThenCount)
@@ -135,6 +230,34 @@ TEST(Trace, OnTheDiagonalChangesWhatTheRunningSumAdds)
     // On the first element: it is set to 0 before it is read.
     EXPECT_EQ(tenkTrace_m_32f(x.data(), 12, 2, &x[0]), tenkOk);
     EXPECT_EQ(x[0], 2.0F);
+}
+
+// The same in every member: dst lies on the last element of the diagonal of ones but for that element, 5.
+template <typename T>
+void checkOverlap(bool array, unsigned size, const std::string& layout)
+{
+    const unsigned order = size == 0 ? 4 : size;
+    const std::string name = nameOf<T>(array, size, layout);
+    auto a = matrices<T>(layout, array, 1, order, order);
+    a.fill([] { return T(1); });
+    T& last = a.at(0, order - 1, order - 1);
+    last = T(5);
+    Arguments count;
+    if (array)
+        count.push_back(word(1));
+    EXPECT_EQ(callByName(name, {a.arguments(), sizes(size, order), {pointer(&last)}, count}), tenkOk) << name;
+    const bool straight = size != 0 && (layout.empty() || layout == "_L");
+    EXPECT_EQ(last, straight ? T(order - 1 + 5) : T(2 * (order - 1))) << name;
+}
+
+TEST(Trace, OnTheDiagonalChangesTheRunningSumsAndNoOthers)
+{
+    for (bool array : {false, true})
+        for (unsigned size : {0U, 3U, 4U, 5U, 6U})
+            for (const std::string& layout : array ? arrayLayouts : singleLayouts) {
+                checkOverlap<float>(array, size, layout);
+                checkOverlap<double>(array, size, layout);
+            }
 }
 
 TEST(Trace, OfOneMatrixBehindATableTestsTheDiagonalAndLeavesThePartialSum)
