@@ -2,6 +2,7 @@
 // against a bound.
 #include "tenk.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <gtest/gtest.h>
@@ -373,6 +374,67 @@ unsigned resultsBeforeNull(unsigned size, const std::string& layout, unsigned nu
     return n;
 }
 
+// The same of a list without a shift, of matrices without gaps.
+template <typename T>
+unsigned resultsBeforeNullWithoutGaps(unsigned size, unsigned nullAt, unsigned count)
+{
+    const std::vector<T> ones(std::size_t{size} * size, T(1));
+    std::vector<const T*> entries(count, ones.data());
+    entries[nullAt] = nullptr;
+    std::vector<T> dst(count, T(-1));
+    const std::uint32_t row = size * sizeof(T);
+    EXPECT_EQ(callByName(nameOf<T>(true, size, "_L"),
+                         {{pointer(entries.data()), word(0), word(row)}, {pointer(dst.data()), word(count)}}),
+              tenkNullPointerError);
+    unsigned n = 0;
+    while (n < count && dst[n] > 0)
+        ++n;
+    for (unsigned k = n; k < count; ++k)
+        EXPECT_EQ(dst[k], T(-1));
+    return n;
+}
+
+TEST(FrobNorm, OfAListWithoutGapsWritesWhatIsInFrontOfANullEntry)
+{
+    for (unsigned size : {3U, 4U}) { // a step at a time
+        EXPECT_EQ(resultsBeforeNullWithoutGaps<float>(size, 1, 12), 0U);
+        EXPECT_EQ(resultsBeforeNullWithoutGaps<float>(size, 4, 12), 4U);
+        EXPECT_EQ(resultsBeforeNullWithoutGaps<float>(size, 11, 12), 8U);
+        EXPECT_EQ(resultsBeforeNullWithoutGaps<double>(size, 1, 6), 0U);
+        EXPECT_EQ(resultsBeforeNullWithoutGaps<double>(size, 5, 6), 4U);
+    }
+    for (unsigned size : {5U, 6U})
+        for (unsigned nullAt = 0; nullAt < 12; ++nullAt) {
+            EXPECT_EQ(resultsBeforeNullWithoutGaps<float>(size, nullAt, 12), nullAt);
+            EXPECT_EQ(resultsBeforeNullWithoutGaps<double>(size, nullAt, 12), nullAt);
+        }
+}
+
+// No object of a step is read before all entries of the step are tested.
+TEST(FrobNorm, OfAListOfSmallMatricesReadsNoneOfAStepWithANullEntry)
+{
+    void* const unreadable = mmap(nullptr, 4096, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    ASSERT_NE(unreadable, MAP_FAILED);
+    const Floats x(16, 1);
+    const std::vector<double> y(16, 1);
+    const float* const list[] = {x.data(), x.data(), x.data(), x.data(), static_cast<float*>(unreadable),
+                                 x.data(), x.data(), nullptr};
+    const double* const doubles[] = {y.data(), y.data(), static_cast<double*>(unreadable), nullptr};
+    for (unsigned size : {3U, 4U}) {
+        Floats s(8, -1);
+        EXPECT_EQ(callByName(nameOf<float>(true, size, "_L"),
+                             {{pointer(list), word(0), word(4 * size), pointer(s.data()), word(8)}}),
+                  tenkNullPointerError);
+        EXPECT_EQ(s[4], -1.0F);
+        std::vector<double> d(4, -1);
+        EXPECT_EQ(callByName(nameOf<double>(true, size, "_L"),
+                             {{pointer(doubles), word(0), word(8 * size), pointer(d.data()), word(4)}}),
+                  tenkNullPointerError);
+        EXPECT_EQ(d, (std::vector<double>{double(size), double(size), -1, -1}));
+    }
+    munmap(unreadable, 4096);
+}
+
 TEST(FrobNorm, OfAListOfSmallMatricesTestsAStepAtATime)
 {
     for (unsigned size : {3U, 4U}) {
@@ -452,15 +514,16 @@ TEST(FrobNorm, OfSmallMatricesReadsAWholeStepBeforeItWrites)
     EXPECT_EQ(std::vector<double>(z.begin(), z.begin() + 4), (std::vector<double>{1, 5, 7, 1}));
 }
 
-// Larger matrices go object by object: the results, which lie on later objects, are those of calls with one
-// object each.
+// Larger matrices go object by object, small ones step by step: the results, which lie on later objects, are
+// those of calls with one object or one step each.
 template <typename T>
-void checkOneByOne(unsigned size, const std::string& layout, int rowStep, int offset)
+void checkStepByStep(unsigned size, const std::string& layout, int rowStep, int offset)
 {
+    const int together = size > 4 ? 1 : static_cast<int>(16 / sizeof(T));
     const auto bytes = [](int elements) { return word(static_cast<std::uint32_t>(elements) * sizeof(T)); };
-    for (unsigned count : {8U, 9U}) {
+    for (int count : {8, 9}) {
         const int step = static_cast<int>(size * size);
-        std::vector<T> batch(512 + count * size * size);
+        std::vector<T> batch(512 + 9 * size * size);
         for (std::size_t j = 0; j < batch.size(); ++j)
             batch[j] = T(j % 7 + 1);
         std::vector<T> single = batch;
@@ -476,9 +539,9 @@ void checkOneByOne(unsigned size, const std::string& layout, int rowStep, int of
                                  {src, {pointer(start + offset + k), word(static_cast<std::uint32_t>(n))}}),
                       tenkOk);
         };
-        run(batch, 0, static_cast<int>(count));
-        for (int k = 0; k < static_cast<int>(count); ++k)
-            run(single, k, 1);
+        run(batch, 0, count);
+        for (int k = 0; k < count; k += together)
+            run(single, k, std::min(together, count - k));
         EXPECT_EQ(batch, single) << nameOf<T>(true, size, layout) << ", results at " << offset;
     }
 }
@@ -490,8 +553,19 @@ TEST(FrobNorm, OfLargerMatricesWritesEachResultBeforeItReadsTheNextObject)
             for (int offset = -32; offset < 330; ++offset)
                 for (int rowStep :
                      {size, size + 2, -1}) { // without and with gaps, and backwards through each other
-                    checkOneByOne<float>(static_cast<unsigned>(size), layout, rowStep, offset);
-                    checkOneByOne<double>(static_cast<unsigned>(size), layout, rowStep, offset);
+                    checkStepByStep<float>(static_cast<unsigned>(size), layout, rowStep, offset);
+                    checkStepByStep<double>(static_cast<unsigned>(size), layout, rowStep, offset);
+                }
+}
+
+TEST(FrobNorm, OfSmallMatricesWritesTheResultsOfAStepBeforeItReadsTheNextOne)
+{
+    for (int size : {3, 4})
+        for (const char* layout : {"", "_L"})
+            for (int offset = -16; offset < 160; ++offset)
+                for (int rowStep : {size, size + 2}) {
+                    checkStepByStep<float>(static_cast<unsigned>(size), layout, rowStep, offset);
+                    checkStepByStep<double>(static_cast<unsigned>(size), layout, rowStep, offset);
                 }
 }
 
