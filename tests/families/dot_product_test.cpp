@@ -581,16 +581,24 @@ TEST(DotProduct, OfOtherArraysWritesEachResultBeforeItReadsTheNextObject)
 TEST(DotProduct, OfListsWritesEachResultBeforeItReadsTheNextEntry)
 {
     constexpr std::size_t filled = sizeof(void*) / sizeof(float);
-    for (unsigned size : {5U, 6U}) {
-        const Floats zeros(6, 0), y(6, 1);
-        std::vector<const float*> entries(4, zeros.data());
-        EXPECT_EQ(callByName("tenkDotProduct_vav_32f_" + std::to_string(size) + "x1_L",
-                             {{pointer(entries.data()), word(0), pointer(y.data()), pointer(&entries[filled]),
-                               word(4)}}),
-                  tenkNullPointerError);
-        EXPECT_EQ(entries[filled], nullptr);
-        EXPECT_EQ(entries[filled + 1], zeros.data());
-    }
+    for (unsigned size : {5U, 6U})
+        for (bool behind : {false, true}) { // objects in front of the list, or behind it
+            struct
+            {
+                float front[6];
+                const float* entries[4];
+                float back[6];
+            } m{};
+            const float* const zeros = behind ? m.back : m.front;
+            std::fill_n(m.entries, 4, zeros);
+            const Floats y(6, 1);
+            EXPECT_EQ(callByName("tenkDotProduct_vav_32f_" + std::to_string(size) + "x1_L",
+                                 {{pointer(m.entries), word(0), pointer(y.data()),
+                                   pointer(&m.entries[filled]), word(4)}}),
+                      tenkNullPointerError);
+            EXPECT_EQ(m.entries[filled], nullptr);
+            EXPECT_EQ(m.entries[filled + 1], zeros);
+        }
 }
 
 TEST(DotProduct, PassesInfinitiesAndNaNsThrough)

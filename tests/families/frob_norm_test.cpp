@@ -413,26 +413,32 @@ TEST(FrobNorm, OfAListWithoutGapsWritesWhatIsInFrontOfANullEntry)
 // No object of a step is read before all entries of the step are tested.
 TEST(FrobNorm, OfAListOfSmallMatricesReadsNoneOfAStepWithANullEntry)
 {
-    void* const unreadable = mmap(nullptr, 4096, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
-    ASSERT_NE(unreadable, MAP_FAILED);
-    const Floats x(16, 1);
-    const std::vector<double> y(16, 1);
-    const float* const list[] = {x.data(), x.data(), x.data(), x.data(), static_cast<float*>(unreadable),
-                                 x.data(), x.data(), nullptr};
-    const double* const doubles[] = {y.data(), y.data(), static_cast<double*>(unreadable), nullptr};
-    for (unsigned size : {3U, 4U}) {
-        Floats s(8, -1);
-        EXPECT_EQ(callByName(nameOf<float>(true, size, "_L"),
-                             {{pointer(list), word(0), word(4 * size), pointer(s.data()), word(8)}}),
-                  tenkNullPointerError);
-        EXPECT_EQ(s[4], -1.0F);
-        std::vector<double> d(4, -1);
-        EXPECT_EQ(callByName(nameOf<double>(true, size, "_L"),
-                             {{pointer(doubles), word(0), word(8 * size), pointer(d.data()), word(4)}}),
-                  tenkNullPointerError);
-        EXPECT_EQ(d, (std::vector<double>{double(size), double(size), -1, -1}));
-    }
-    munmap(unreadable, 4096);
+    // Results, then objects, then what cannot be read.
+    char* const memory =
+        static_cast<char*>(mmap(nullptr, 8192, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
+    ASSERT_NE(static_cast<void*>(memory), MAP_FAILED);
+    mprotect(memory + 4096, 4096, PROT_NONE);
+    const auto check = [&](auto one, std::size_t step) {
+        using T = decltype(one);
+        T* const s = reinterpret_cast<T*>(memory);
+        T* const x = s + 100;
+        std::fill_n(x, 16, one);
+        std::vector<const T*> list(2 * step, x);
+        list[step] = reinterpret_cast<const T*>(memory + 4096);
+        list.back() = nullptr;
+        for (unsigned size : {3U, 4U}) {
+            std::fill_n(s, 2 * step, -one);
+            const std::uint32_t row = size * sizeof(T), count = static_cast<std::uint32_t>(2 * step);
+            EXPECT_EQ(callByName(nameOf<T>(true, size, "_L"),
+                                 {{pointer(list.data()), word(0), word(row), pointer(s), word(count)}}),
+                      tenkNullPointerError);
+            EXPECT_GT(s[step - 1], 0);
+            EXPECT_EQ(s[step], -one);
+        }
+    };
+    check(1.0F, 4);
+    check(1.0, 2);
+    munmap(memory, 8192);
 }
 
 TEST(FrobNorm, OfAListOfSmallMatricesTestsAStepAtATime)
@@ -569,19 +575,38 @@ TEST(FrobNorm, OfSmallMatricesWritesTheResultsOfAStepBeforeItReadsTheNextOne)
                 }
 }
 
-// The first two results are the list entries of the others: null pointers by then.
+// The first result is the list entry of the second object: a null pointer by then.
 TEST(FrobNorm, OfLargerMatricesWritesEachResultBeforeItReadsTheNextEntry)
 {
-    std::vector<double> zeros(36, 0);
-    for (unsigned size : {5U, 6U}) {
-        std::vector<const double*> entries(4, zeros.data());
-        double* const dst = reinterpret_cast<double*>(&entries[1]);
-        EXPECT_EQ(callByName(nameOf<double>(true, size, "_L"),
-                             {{pointer(entries.data()), word(0), word(8 * size), pointer(dst), word(4)}}),
-                  tenkNullPointerError);
-        EXPECT_EQ(entries[0], zeros.data());
-        EXPECT_EQ(entries[1], nullptr);
-    }
+    for (unsigned size : {5U, 6U})
+        for (bool behind : {false, true}) { // objects in front of the list, or behind it
+            struct
+            {
+                double front[36];
+                const double* entries[4];
+                double back[36];
+            } m{};
+            const double* const zeros = behind ? m.back : m.front;
+            std::fill_n(m.entries, 4, zeros);
+            EXPECT_EQ(
+                callByName(nameOf<double>(true, size, "_L"),
+                           {{pointer(m.entries), word(0), word(8 * size), pointer(&m.entries[1]), word(4)}}),
+                tenkNullPointerError);
+            EXPECT_EQ(m.entries[0], zeros);
+            EXPECT_EQ(m.entries[1], nullptr);
+            EXPECT_EQ(m.entries[1 + sizeof(double) / sizeof(void*)], zeros); // of the second result
+        }
+}
+
+// One object, twice: five rows of five ones, each an element in front of the one before. The first result is
+// the first element of the last row.
+TEST(FrobNorm, OfRowsThatGoBackwardsReadsTheResultsOfEarlierObjects)
+{
+    std::vector<double> x(13, 1);
+    EXPECT_EQ(tenkFrobNorm_ma_64f_5x5(&x[4], 0, static_cast<std::uint32_t>(-8), x.data(), 2), tenkOk);
+    EXPECT_EQ(x[0], 5.0);
+    EXPECT_EQ(x[1], 7.0); // 24 ones and 5^2
+    EXPECT_EQ(x[2], 1.0);
 }
 
 TEST(FrobNorm, AddsTheShiftToAListOfMatricesWithoutGaps)
