@@ -44,7 +44,7 @@ TENK_INLINE void elements(F f, Address dst, Address x, Address y)
     // vectors.
     constexpr bool three = n == 3 && (sizeof(T) == 8 || sizeof(Address) == 8);
     if (overlap == Overlap::ascending &&
-        (three || startsInside(dst, x, n * sizeof(T)) || startsInside(dst, y, n * sizeof(T))))
+        (three || startsInside(dst, x, n * sizeof(T)) || startsInside(dst, y, n * sizeof(T)))) [[unlikely]]
         each<n>([&](auto j) TENK_LAMBDA {
             store<T>(dst + j * sizeof(T), f(load<T>(x + j * sizeof(T)), load<T>(y + j * sizeof(T))));
         });
@@ -57,7 +57,7 @@ template <unsigned n, typename T, Overlap overlap, typename F>
 TENK_INLINE void elements(F f, Address dst, Address x, const Row<T, n>& y)
 {
     using R = Row<T, n>;
-    if (overlap == Overlap::ascending && startsInside(dst, x, n * sizeof(T)))
+    if (overlap == Overlap::ascending && startsInside(dst, x, n * sizeof(T))) [[unlikely]]
         each<n>([&](auto j)
                     TENK_LAMBDA { store<T>(dst + j * sizeof(T), f(load<T>(x + j * sizeof(T)), y.get(j))); });
     else

@@ -1,6 +1,7 @@
 // Addresses, and the only loads and stores of the library: legal at any address, and raw bits on both ways.
 #pragma once
 
+#include <concepts>
 #include <cstdint>
 
 // Kernels, their helpers and their lambdas are part of the entry point that uses them: nothing here is ever
@@ -42,11 +43,11 @@ TENK_INLINE void store(Address a, T value)
     __builtin_memcpy(reinterpret_cast<void*>(a), &value, sizeof(T));
 }
 
-// As it stands: the compiler would take what it copies by way of a general register, of which i386 has few.
-template <>
-TENK_INLINE void store(Address a, float value)
+// As it stands: the compiler would take what it copies by way of general registers, of which i386 has few.
+template <std::floating_point T>
+TENK_INLINE void store(Address a, T value)
 {
-    typedef float Anywhere __attribute__((may_alias, aligned(1)));
+    typedef T Anywhere __attribute__((may_alias, aligned(1)));
     *reinterpret_cast<Anywhere*>(a) = value;
 }
 

@@ -34,24 +34,26 @@ struct BatchSteps
 //   one(k)            the result of object k
 template <BatchSteps steps, typename T, typename Null, typename Step, typename One>
 TENK_INLINE tenkStatus stepsOrSingles(T* dst, std::size_t count, bool possible, Null isNull, Step step,
-                                      One one)
+                                      One one, std::size_t k = 0)
 {
-    std::size_t k = 0;
+    const std::size_t full = count - count % steps.objects; // k is a multiple up to there
     while (k < count) {
         std::size_t end = count;
-        if constexpr (steps.objects > 1) {
-            if (possible)
-                for (; count - k >= steps.objects; k += steps.objects) {
+        if constexpr (steps.objects > 1)
+            if (possible && k != full) {
+                do {
                     Vector<T> results;
-                    if (!step(k, results)) {
-                        if (steps.together)
-                            return tenkNullPointerError;
-                        end = k + steps.objects;
+                    if (!step(k, results))
                         break;
-                    }
                     store<Vector<T>>(resultAddress(dst, k), results);
+                    k += steps.objects;
+                } while (k != full);
+                if (k != full) {
+                    if (steps.together)
+                        return tenkNullPointerError;
+                    end = k + steps.objects;
                 }
-        }
+            }
         for (; k < end; ++k) {
             if (steps.testsRest && isNull(k))
                 return tenkNullPointerError;
@@ -61,13 +63,78 @@ TENK_INLINE tenkStatus stepsOrSingles(T* dst, std::size_t count, bool possible, 
     return tenkOk;
 }
 
+// The same one by one, counted up to zero: operands and results are those behind the last object. It takes no
+// register for the number of objects, and no time for counting but once in four objects.
+template <typename T, typename Null, typename One>
+TENK_INLINE tenkStatus singlesUpToZero(T* end, std::size_t count, Null isNull, One one)
+{
+    const auto single = [&](std::size_t k) TENK_LAMBDA {
+        if (isNull(k))
+            return false;
+        store<T>(resultAddress(end, k), one(k));
+        return true;
+    };
+    std::size_t k = 0 - count;
+    for (; k % 4 != 0; ++k)
+        if (!single(k))
+            return tenkNullPointerError;
+    for (; k != 0; k += 4)
+        if (!(single(k) && single(k + 1) && single(k + 2) && single(k + 3)))
+            return tenkNullPointerError;
+    return tenkOk;
+}
+
+// Of an operand, or of results, what is behind the last one, in a register: left to itself, the compiler
+// would read an argument from memory wherever it is needed.
+template <typename O>
+TENK_INLINE O behindLast(O o, std::size_t count)
+{
+    if constexpr (O::list)
+        o.p += count * sizeof(Address);
+    asm("" : "+r"(o.p));
+    return o;
+}
+template <typename T>
+TENK_INLINE T* behindLast(T* results, std::size_t count)
+{
+    results += count;
+    asm("" : "+r"(results));
+    return results;
+}
+
+// Works out the results of steps in two parts, so that the second part of one step and the first part of the
+// next, which wait for nothing of each other, go at the same time. Answers which object is the next one: that
+// of the first step which may not be read before the results of the step in front of it are written, or the
+// one behind the last full step.
+//
+//   start(k, part)  the first part of the step at k, or false if that may not be read
+//   finish(part)    its results
+template <unsigned step, typename T, typename Start, typename Finish>
+TENK_INLINE std::size_t inPipeline(T* dst, std::size_t count, Start start, Finish finish)
+{
+    const std::size_t full = count - count % step;
+    Vector<T> part;
+    if (full == 0 || !start(std::size_t{0}, part))
+        return 0;
+    std::size_t k = step;
+    for (; k != full; k += step) {
+        Vector<T> next;
+        if (!start(k, next))
+            break;
+        store<Vector<T>>(resultAddress(dst, k - step), finish(part));
+        part = next;
+    }
+    store<Vector<T>>(resultAddress(dst, k - step), finish(part));
+    return k;
+}
+
 // The same, where all tests of a step come before all its work.
 //
 //   isApart(k)    the results of the step at k lie on none of its objects, nor on their list entries
 //   several(k)    the results of the step at k
 template <BatchSteps steps, typename T, typename Null, typename Apart, typename Several, typename One>
 TENK_INLINE tenkStatus inSteps(T* dst, std::size_t count, Null isNull, Apart isApart, Several several,
-                               One one)
+                               One one, std::size_t from = 0)
 {
     const auto step = [&](auto k, Vector<T>& results) TENK_LAMBDA {
         bool null = false;
@@ -77,7 +144,7 @@ TENK_INLINE tenkStatus inSteps(T* dst, std::size_t count, Null isNull, Apart isA
         results = several(k);
         return true;
     };
-    return stepsOrSingles<steps>(dst, count, steps.together || isApart.possible, isNull, step, one);
+    return stepsOrSingles<steps>(dst, count, steps.together || isApart.possible, isNull, step, one, from);
 }
 
 // For steps together, or for no steps.
@@ -153,8 +220,7 @@ struct BothApart
 
 // Whether an object of n adjacent elements may be read before the results of earlier ones are written, with
 // one comparison for each entry of a list: one that is not null, and whose object lies on the same side of
-// all results as the first one. Without a list it is found out once. The answer is no if something is added
-// to the entries.
+// all results as the first one. Without a list it is found out once. Nothing is added to the entries.
 template <unsigned n, typename O>
 struct OnOneSide
 {
@@ -170,7 +236,7 @@ struct OnOneSide
         const Address results = resultAddress(dst, 0), end = resultAddress(dst, count);
         possible = count != 0 && end > results && results > bytes;
         if constexpr (O::list) {
-            possible = possible && o.shift == 0 && (sizeof(Address) == 8 || o.p % 16 == 0) &&
+            possible = possible && (sizeof(Address) == 8 || o.p % 16 == 0) &&
                        areApart(results, end - results, o.p, count * sizeof(Address));
             const bool behind = possible && o.entry(0) >= end;
             toFirst = 0 - (behind ? end : 1);

@@ -26,23 +26,22 @@ inline constexpr bool manyRegisters = sizeof(Address) == 8;
 
 // How the objects of a batch are taken. Those of some members are read a step at a time, and their list
 // entries tested, before the first result of the step is written; in 64f that is so in Standard layout alone.
-// All others go object by object, as far as can be told. In two lists it does not always pay to find that
-// out.
-consteval BatchSteps stepsOf(Member m)
+// All others go object by object, as far as can be told; in lists, that is found out where nothing is added
+// to their entries. With few registers it does not pay where an object takes many loads.
+consteval BatchSteps stepsOf(Member m, bool dense)
 {
     if (m == "tenkDotProduct_vav_32f_3x1" || m == "tenkDotProduct_vav_32f_3x1_L" ||
         m == "tenkDotProduct_vav_32f_4x1" || m == "tenkDotProduct_vav_32f_4x1_L")
         return {4, true};
     if (m == "tenkDotProduct_vav_64f_3x1")
         return {2, true};
-    const bool list = m.layout == Layout::List, twoLists = list && m.source(1).array;
-    if (!m.batch() || m.general() || !(m.layout == Layout::Standard || list))
+    const bool list = m.layout == Layout::List;
+    if (!m.batch() || m.general() || !(m.layout == Layout::Standard || (list && dense)))
         return {1, true};
-    if (m.type == Type::f32 && (manyRegisters || !twoLists || m.size != 5))
-        return {4, false};
-    if (m.type == Type::f64 && (m.layout == Layout::Standard || (manyRegisters && !twoLists)))
-        return {2, false};
-    return {1, true};
+    const bool manyLoads = m.type == Type::f64 || (m.source(1).array && m.size > 4);
+    if (list && !manyRegisters && manyLoads)
+        return {1, true};
+    return {m.type == Type::f32 ? 4U : 2U, false};
 }
 
 // Lane i. The compiler would copy the vector to shuffle the copy.
@@ -50,6 +49,12 @@ template <std::size_t i>
 TENK_INLINE float lane(Vector<float> v)
 {
     return _mm_cvtss_f32(_mm_castsi128_ps(_mm_shuffle_epi32(_mm_castps_si128(v), i)));
+}
+
+// Two elements and zeros, whose products are zeros.
+TENK_INLINE Vector<float> loadLow(Address a)
+{
+    return _mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i_u*>(a)));
 }
 
 // The sum of products of a fixed size in 32f.
@@ -65,7 +70,12 @@ TENK_INLINE float sumInOrder(Address x, Address y)
             return (four[0] + lane<1>(four)) + (lane<2>(four) + lane<3>(four));
         float s = four[0];
         each<3>([&](auto i) TENK_LAMBDA { s = s + lane<i + 1>(four); });
-        each<m.size - 4>([&](auto i) TENK_LAMBDA { s = s + p(i + 4); });
+        if constexpr (m.size == 5)
+            s = s + p(4);
+        if constexpr (m.size == 6) {
+            const Vector<float> last = loadLow(x + 16) * loadLow(y + 16);
+            s = (s + last[0]) + lane<1>(last);
+        }
         return s;
     }
 }
@@ -160,13 +170,14 @@ TENK_INLINE void workedOut(P& products)
         asm volatile("" : "+x"(products.rest));
 }
 
-template <Member m>
-TENK_INLINE tenkStatus products(const Source<m>& src1, const Source<m, 1>& src2, Element<m>* dst,
-                                Size<m> length, Count<m> count)
+// dense: nothing is added to list entries, and arrays have no gaps.
+template <Member m, bool dense>
+TENK_INLINE tenkStatus products(Source<m> src1, Source<m, 1> src2, Element<m>* dst, Size<m> length,
+                                Count<m> count)
 {
     using T = Element<m>;
     constexpr bool adjacent = isDense(m.layout) && !m.general();
-    constexpr BatchSteps steps = stepsOf(m);
+    constexpr BatchSteps steps = stepsOf(m, dense);
     constexpr unsigned n = m.general() ? 1 : m.size;
     const auto isNull = [&](std::size_t k) TENK_LAMBDA { return anyNullObject(k, src1, src2); };
     const auto one = [&](std::size_t k) TENK_LAMBDA -> T {
@@ -187,7 +198,19 @@ TENK_INLINE tenkStatus products(const Source<m>& src1, const Source<m, 1>& src2,
         return sumsOfStep<m>([&](std::size_t i) TENK_LAMBDA { return src1.object(k + i, n).start; },
                              [&](std::size_t i) TENK_LAMBDA { return src2.object(k + i, n).start; });
     };
-    if constexpr (m.layout == Layout::List && !steps.together) {
+    if constexpr (m.layout == Layout::List && dense && steps.objects == 1) {
+        src1 = behindLast(src1, count);
+        src2 = behindLast(src2, count);
+        return singlesUpToZero(behindLast(dst, count), count, isNull, one);
+    } else if constexpr (m.layout == Layout::List && steps.objects > 1 && steps.together) {
+        const auto step = [&](std::size_t k, Vector<T>& sums) TENK_LAMBDA {
+            if (isNull(k) || isNull(k + 1) || isNull(k + 2) || isNull(k + 3))
+                return false;
+            sums = several(k);
+            return true;
+        };
+        return stepsOrSingles<steps>(dst, count, true, isNull, step, one);
+    } else if constexpr (m.layout == Layout::List && steps.objects > 1) {
         const OnOneSide<n, Source<m>> side1(src1, dst, count);
         // Possible only if the first is. The second list is not looked at before an entry of the first is
         // tested.
@@ -200,15 +223,16 @@ TENK_INLINE tenkStatus products(const Source<m>& src1, const Source<m, 1>& src2,
                 sums = several(k);
                 return true;
             }
+            // The first object is read before any result of its step is written, so it may lie anywhere.
             Products<m> p[steps.objects];
             bool read = true;
             each<steps.objects>([&](auto i) TENK_LAMBDA {
                 const auto multiply = [&] TENK_LAMBDA {
                     const Address x = src1.object(k + i, n).start;
-                    if (!side1.mayRead(x))
+                    if (i == 0 ? src1.nullEntry(k) : !side1.mayRead(x))
                         return false;
                     const Address y = src2.object(k + i, n).start;
-                    if (!side2.mayRead(y))
+                    if (i == 0 ? anyNullObject(k, src2) : !side2.mayRead(y))
                         return false;
                     p[i] = productsOf<m>(x, y);
                     workedOut(p[i]);
@@ -247,8 +271,9 @@ TENK_INLINE tenkStatus dotProduct(Source<m> src1, Source<m, 1> src2, Element<m>*
 
     if constexpr (isDense(m.layout) && !m.general() && m.batch())
         if (gapless<m.size, 1>(src1) && gapless<m.size, 1>(src2))
-            return dot::products<m>(packed<m.size, 1>(src1), packed<m.size, 1>(src2), dst, length, count);
-    return dot::products<m>(src1, src2, dst, length, count);
+            return dot::products<m, true>(packed<m.size, 1>(src1), packed<m.size, 1>(src2), dst, length,
+                                          count);
+    return dot::products<m, false>(src1, src2, dst, length, count);
 }
 
 } // namespace tenk

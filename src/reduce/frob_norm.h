@@ -152,26 +152,40 @@ TENK_INLINE T sumOfOne(const View& view)
     return sum + last * last;
 }
 
-// The same for as many matrices as a vector has lanes; view(i) is the view of one.
-template <typename T, unsigned n, bool dense, typename Views>
-TENK_INLINE Vector<T> sumsOfStep(Views view)
+// The two parts of that sum of one matrix.
+template <typename T, unsigned n, bool dense>
+struct PartialSums
 {
-    const auto byLanes = [&](std::size_t i) TENK_LAMBDA { return sumByLanes<T, n, dense>(view(i)); };
-    const auto lastOf = [&](std::size_t i) TENK_LAMBDA { return load<T>(view(i).at(n - 1, n - 1)); };
+    Vector<T> byLanes;
+    T last; // of an odd order: the element that belongs to no vector
+
+    template <typename View>
+    TENK_INLINE static PartialSums of(const View& view)
+    {
+        PartialSums s;
+        s.byLanes = sumByLanes<T, n, dense>(view);
+        if constexpr (n % 2 != 0)
+            s.last = load<T>(view.at(n - 1, n - 1));
+        return s;
+    }
+};
+
+// The same for as many matrices as a vector has lanes.
+template <typename T, unsigned n, bool dense>
+TENK_INLINE Vector<T> sumsOfStep(const PartialSums<T, n, dense> (&s)[lanes<T>])
+{
     Vector<T> sums, last{};
     if constexpr (lanes<T> == 4) {
-        const auto evenAndOdd = [&](std::size_t i) TENK_LAMBDA {
-            const auto a = byLanes(i), b = byLanes(i + 1);
-            return lowHalves(a, b) + highHalves(a, b);
-        };
-        sums = sumNeighbours(evenAndOdd(0), evenAndOdd(2));
+        const auto evenAndOdd = [](Vector<T> a, Vector<T> b)
+                                    TENK_LAMBDA { return lowHalves(a, b) + highHalves(a, b); };
+        sums = sumNeighbours(evenAndOdd(s[0].byLanes, s[1].byLanes), evenAndOdd(s[2].byLanes, s[3].byLanes));
         if constexpr (n % 2 != 0)
-            last = Vector<T>{lastOf(0), lastOf(1), lastOf(2), lastOf(3)};
+            last = Vector<T>{s[0].last, s[1].last, s[2].last, s[3].last};
     } else {
-        const auto a = byLanes(0), b = byLanes(1);
+        const auto a = s[0].byLanes, b = s[1].byLanes;
         sums = shuffle<0, 2>(a, b) + shuffle<1, 3>(a, b);
         if constexpr (n % 2 != 0)
-            last = Vector<T>{lastOf(0), lastOf(1)};
+            last = Vector<T>{s[0].last, s[1].last};
     }
     if constexpr (n % 2 == 0)
         return sums;
@@ -191,26 +205,67 @@ TENK_INLINE auto rootOf(auto s)
         return root(s);
 }
 
-// dense: rows follow each other without a gap.
+// A root waits for a long chain of operations: those of a step are taken while the next step is read, as long
+// as nobody can tell. Answers which object is the next one.
+template <Member m, typename Apart>
+TENK_INLINE std::size_t normsInPipeline(const Source<m>& src, Element<m>* dst, std::size_t count,
+                                        const Apart& apart)
+{
+    using T = Element<m>;
+    using Partial = PartialSums<T, m.size, true>;
+    constexpr BatchSteps steps = stepsOf(m);
+    constexpr bool list = m.layout == Layout::List;
+    const OnOneSide<m.size * m.size, Source<m>> side(src, dst, count);
+    if (!(list ? side.possible : apart.possible))
+        return 0;
+    const auto sums = [&](std::size_t k, Vector<T>& part) TENK_LAMBDA {
+        const auto view = [&](std::size_t i) TENK_LAMBDA { return src.object(k + i, m.size); };
+        bool read = true;
+        if constexpr (list && steps.together)
+            each<steps.objects>([&](auto i) TENK_LAMBDA { read = read && side.mayRead(view(i).start); });
+        Partial s[steps.objects];
+        each<steps.objects>([&](auto i) TENK_LAMBDA {
+            if constexpr (list && !steps.together)
+                read = read && side.mayRead(view(i).start);
+            if (read) {
+                s[i] = Partial::of(view(i));
+                if constexpr (list)
+                    asm volatile("" : "+x"(s[i].byLanes)); // see workedOut in dot_product.h
+            }
+        });
+        if (read)
+            part = sumsOfStep(s);
+        return read;
+    };
+    return inPipeline<steps.objects>(dst, count, sums, [](auto s) TENK_LAMBDA { return rootOf<m>(s); });
+}
+
+// dense: rows follow each other without a gap, and nothing is added to list entries.
 template <Member m, bool dense>
 TENK_INLINE tenkStatus normsOfRows(const Source<m>& src, Element<m>* dst, std::size_t count)
 {
     using T = Element<m>;
     constexpr unsigned n = m.size;
     constexpr BatchSteps steps = stepsOf(m);
+    const Apart<n, n, steps.objects, Source<m>> apart(src, dst, count);
+    std::size_t done = 0;
+    if constexpr (m.batch() && dense)
+        done = normsInPipeline<m>(src, dst, count, apart);
     const auto view = [&](std::size_t k) TENK_LAMBDA { return src.object(k, n); };
     return inSteps<steps>(
-        dst, count, [&](std::size_t k) TENK_LAMBDA { return anyNullObject(k, src); },
-        Apart<n, n, steps.objects, Source<m>>(src, dst, count),
+        dst, count, [&](std::size_t k) TENK_LAMBDA { return anyNullObject(k, src); }, apart,
         [&](auto k) TENK_LAMBDA {
-            return rootOf<m>(sumsOfStep<T, n, dense>([&](std::size_t i) TENK_LAMBDA { return view(k + i); }));
+            PartialSums<T, n, dense> s[lanes<T>];
+            each<lanes<T>>([&](auto i) TENK_LAMBDA { s[i] = s[i].of(view(k + i)); });
+            return rootOf<m>(sumsOfStep(s));
         },
         [&](std::size_t k) TENK_LAMBDA {
             if constexpr (m.batch())
                 return rootOf<m>(sumOfOne<T, n, dense>(view(k)));
             else
                 return rootOf<m>(sumAcross(columnSums<T, n>(view(k))));
-        });
+        },
+        done);
 }
 
 } // namespace tenk::frob

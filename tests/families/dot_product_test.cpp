@@ -1,6 +1,7 @@
 // DotProduct: edge cases by hand, and the order of the sums of every member against plain expressions.
 #include "tenk.h"
 
+#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <cstdint>
@@ -436,6 +437,54 @@ TEST(DotProduct, OfOtherListsTestsOneEntryAtATime)
     }
 }
 
+// The same of lists without a shift.
+TEST(DotProduct, OfListsWithoutAShiftWritesWhatIsInFrontOfANullEntry)
+{
+    const auto check = [](const std::string& codes, unsigned size, auto one, unsigned together) {
+        using T = decltype(one);
+        const std::vector<T> ones(size, one);
+        for (unsigned nullAt = 0; nullAt < 12; ++nullAt)
+            for (bool second : {false, true}) {
+                if (second && codes == "vav")
+                    continue;
+                std::vector<const T*> entries(12, ones.data()), others = entries;
+                (second ? others : entries)[nullAt] = nullptr;
+                std::vector<T> dst(12, T(-1)), expected(12, T(-1));
+                std::fill_n(expected.begin(), nullAt / together * together, T(size));
+                const Arguments y = codes == "vava" ? Arguments{pointer(others.data()), word(0)}
+                                                    : Arguments{pointer(ones.data())};
+                EXPECT_EQ(
+                    callByName("tenkDotProduct_" + codes + "_" + typeName<T>() + "_" + std::to_string(size) +
+                                   "x1_L",
+                               {{pointer(entries.data()), word(0)}, y, {pointer(dst.data()), word(12)}}),
+                    tenkNullPointerError);
+                EXPECT_EQ(dst, expected) << codes << size << ", null at " << nullAt;
+            }
+    };
+    for (unsigned size : {3U, 4U, 5U, 6U}) {
+        check("vav", size, 1.0F, size < 5 ? 4 : 1);
+        check("vava", size, 1.0F, 1);
+        check("vav", size, 1.0, 1);
+        check("vava", size, 1.0, 1);
+    }
+}
+
+// No object of a step is read before all entries of the step are tested.
+TEST(DotProduct, OfAListOfThreeOrFour32fElementsReadsNoneOfAStepWithANullEntry)
+{
+    void* const unreadable = mmap(nullptr, 4096, PROT_NONE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    ASSERT_NE(unreadable, MAP_FAILED);
+    const Floats x(4, 1);
+    const float* const list[] = {static_cast<float*>(unreadable), x.data(), x.data(), nullptr};
+    for (std::uint32_t shift : {0U, 4U}) {
+        Floats s(4, -1);
+        EXPECT_EQ(tenkDotProduct_vav_32f_3x1_L(list, shift, x.data(), s.data(), 4), tenkNullPointerError);
+        EXPECT_EQ(tenkDotProduct_vav_32f_4x1_L(list, shift, x.data(), s.data(), 4), tenkNullPointerError);
+        EXPECT_EQ(s, Floats(4, -1));
+    }
+    munmap(unreadable, 4096);
+}
+
 // Objects in front of the results and behind them, in either list, with a shift and without.
 TEST(DotProduct, OfListsStopsAtANullEntryWhereverTheObjectsAre)
 {
@@ -571,16 +620,24 @@ TEST(DotProduct, OfOtherArraysWritesEachResultBeforeItReadsTheNextObject)
 TEST(DotProduct, OfListsWritesEachResultBeforeItReadsTheNextEntry)
 {
     constexpr std::size_t filled = sizeof(void*) / sizeof(float);
-    for (unsigned size : {5U, 6U}) {
-        const Floats zeros(6, 0), y(6, 1);
-        std::vector<const float*> entries(4, zeros.data());
-        EXPECT_EQ(callByName("tenkDotProduct_vav_32f_" + std::to_string(size) + "x1_L",
-                             {{pointer(entries.data()), word(0), pointer(y.data()), pointer(&entries[filled]),
-                               word(4)}}),
-                  tenkNullPointerError);
-        EXPECT_EQ(entries[filled], nullptr);
-        EXPECT_EQ(entries[filled + 1], zeros.data());
-    }
+    for (unsigned size : {5U, 6U})
+        for (bool behind : {false, true}) { // objects in front of the list, or behind it
+            struct
+            {
+                float front[6];
+                const float* entries[4];
+                float back[6];
+            } m{};
+            const float* const zeros = behind ? m.back : m.front;
+            std::fill_n(m.entries, 4, zeros);
+            const Floats y(6, 1);
+            EXPECT_EQ(callByName("tenkDotProduct_vav_32f_" + std::to_string(size) + "x1_L",
+                                 {{pointer(m.entries), word(0), pointer(y.data()),
+                                   pointer(&m.entries[filled]), word(4)}}),
+                      tenkNullPointerError);
+            EXPECT_EQ(m.entries[filled], nullptr);
+            EXPECT_EQ(m.entries[filled + 1], zeros);
+        }
 }
 
 TEST(DotProduct, PassesInfinitiesAndNaNsThrough)

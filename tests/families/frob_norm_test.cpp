@@ -2,6 +2,7 @@
 // against a bound.
 #include "tenk.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <gtest/gtest.h>
@@ -401,6 +402,73 @@ unsigned resultsBeforeNull(unsigned size, const std::string& layout, unsigned nu
     return n;
 }
 
+// The same of a list without a shift, of matrices without gaps.
+template <typename T>
+unsigned resultsBeforeNullWithoutGaps(unsigned size, unsigned nullAt, unsigned count)
+{
+    const std::vector<T> ones(std::size_t{size} * size, T(1));
+    std::vector<const T*> entries(count, ones.data());
+    entries[nullAt] = nullptr;
+    std::vector<T> dst(count, T(-1));
+    const std::uint32_t row = size * sizeof(T);
+    EXPECT_EQ(callByName(nameOf<T>(true, size, "_L"),
+                         {{pointer(entries.data()), word(0), word(row)}, {pointer(dst.data()), word(count)}}),
+              tenkNullPointerError);
+    unsigned n = 0;
+    while (n < count && dst[n] > 0)
+        ++n;
+    for (unsigned k = n; k < count; ++k)
+        EXPECT_EQ(dst[k], T(-1));
+    return n;
+}
+
+TEST(FrobNorm, OfAListWithoutGapsWritesWhatIsInFrontOfANullEntry)
+{
+    for (unsigned size : {3U, 4U}) { // a step at a time
+        EXPECT_EQ(resultsBeforeNullWithoutGaps<float>(size, 1, 12), 0U);
+        EXPECT_EQ(resultsBeforeNullWithoutGaps<float>(size, 4, 12), 4U);
+        EXPECT_EQ(resultsBeforeNullWithoutGaps<float>(size, 11, 12), 8U);
+        EXPECT_EQ(resultsBeforeNullWithoutGaps<double>(size, 1, 6), 0U);
+        EXPECT_EQ(resultsBeforeNullWithoutGaps<double>(size, 5, 6), 4U);
+    }
+    for (unsigned size : {5U, 6U})
+        for (unsigned nullAt = 0; nullAt < 12; ++nullAt) {
+            EXPECT_EQ(resultsBeforeNullWithoutGaps<float>(size, nullAt, 12), nullAt);
+            EXPECT_EQ(resultsBeforeNullWithoutGaps<double>(size, nullAt, 12), nullAt);
+        }
+}
+
+// No object of a step is read before all entries of the step are tested.
+TEST(FrobNorm, OfAListOfSmallMatricesReadsNoneOfAStepWithANullEntry)
+{
+    // Results, then objects, then what cannot be read.
+    char* const memory =
+        static_cast<char*>(mmap(nullptr, 8192, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
+    ASSERT_NE(static_cast<void*>(memory), MAP_FAILED);
+    mprotect(memory + 4096, 4096, PROT_NONE);
+    const auto check = [&](auto one, std::size_t step) {
+        using T = decltype(one);
+        T* const s = reinterpret_cast<T*>(memory);
+        T* const x = s + 100;
+        std::fill_n(x, 16, one);
+        std::vector<const T*> list(2 * step, x);
+        list[step] = reinterpret_cast<const T*>(memory + 4096);
+        list.back() = nullptr;
+        for (unsigned size : {3U, 4U}) {
+            std::fill_n(s, 2 * step, -one);
+            const std::uint32_t row = size * sizeof(T), count = static_cast<std::uint32_t>(2 * step);
+            EXPECT_EQ(callByName(nameOf<T>(true, size, "_L"),
+                                 {{pointer(list.data()), word(0), word(row), pointer(s), word(count)}}),
+                      tenkNullPointerError);
+            EXPECT_GT(s[step - 1], 0);
+            EXPECT_EQ(s[step], -one);
+        }
+    };
+    check(1.0F, 4);
+    check(1.0, 2);
+    munmap(memory, 8192);
+}
+
 TEST(FrobNorm, OfAListOfSmallMatricesTestsAStepAtATime)
 {
     for (unsigned size : {3U, 4U}) {
@@ -480,15 +548,16 @@ TEST(FrobNorm, OfSmallMatricesReadsAWholeStepBeforeItWrites)
     EXPECT_EQ(std::vector<double>(z.begin(), z.begin() + 4), (std::vector<double>{1, 5, 7, 1}));
 }
 
-// Larger matrices go object by object: the results, which lie on later objects, are those of calls with one
-// object each.
+// Larger matrices go object by object, small ones step by step: the results, which lie on later objects, are
+// those of calls with one object or one step each.
 template <typename T>
-void checkOneByOne(unsigned size, const std::string& layout, int rowStep, int offset)
+void checkStepByStep(unsigned size, const std::string& layout, int rowStep, int offset)
 {
+    const int together = size > 4 ? 1 : static_cast<int>(16 / sizeof(T));
     const auto bytes = [](int elements) { return word(static_cast<std::uint32_t>(elements) * sizeof(T)); };
-    for (unsigned count : {8U, 9U}) {
+    for (int count : {8, 9}) {
         const int step = static_cast<int>(size * size);
-        std::vector<T> batch(512 + count * size * size);
+        std::vector<T> batch(512 + 9 * size * size);
         for (std::size_t j = 0; j < batch.size(); ++j)
             batch[j] = T(j % 7 + 1);
         std::vector<T> single = batch;
@@ -504,9 +573,9 @@ void checkOneByOne(unsigned size, const std::string& layout, int rowStep, int of
                                  {src, {pointer(start + offset + k), word(static_cast<std::uint32_t>(n))}}),
                       tenkOk);
         };
-        run(batch, 0, static_cast<int>(count));
-        for (int k = 0; k < static_cast<int>(count); ++k)
-            run(single, k, 1);
+        run(batch, 0, count);
+        for (int k = 0; k < count; k += together)
+            run(single, k, std::min(together, count - k));
         EXPECT_EQ(batch, single) << nameOf<T>(true, size, layout) << ", results at " << offset;
     }
 }
@@ -518,24 +587,54 @@ TEST(FrobNorm, OfLargerMatricesWritesEachResultBeforeItReadsTheNextObject)
             for (int offset = -32; offset < 330; ++offset)
                 for (int rowStep :
                      {size, size + 2, -1}) { // without and with gaps, and backwards through each other
-                    checkOneByOne<float>(static_cast<unsigned>(size), layout, rowStep, offset);
-                    checkOneByOne<double>(static_cast<unsigned>(size), layout, rowStep, offset);
+                    checkStepByStep<float>(static_cast<unsigned>(size), layout, rowStep, offset);
+                    checkStepByStep<double>(static_cast<unsigned>(size), layout, rowStep, offset);
                 }
 }
 
-// The first two results are the list entries of the others: null pointers by then.
+TEST(FrobNorm, OfSmallMatricesWritesTheResultsOfAStepBeforeItReadsTheNextOne)
+{
+    for (int size : {3, 4})
+        for (const char* layout : {"", "_L"})
+            for (int offset = -16; offset < 160; ++offset)
+                for (int rowStep : {size, size + 2}) {
+                    checkStepByStep<float>(static_cast<unsigned>(size), layout, rowStep, offset);
+                    checkStepByStep<double>(static_cast<unsigned>(size), layout, rowStep, offset);
+                }
+}
+
+// The first result is the list entry of the second object: a null pointer by then.
 TEST(FrobNorm, OfLargerMatricesWritesEachResultBeforeItReadsTheNextEntry)
 {
-    std::vector<double> zeros(36, 0);
-    for (unsigned size : {5U, 6U}) {
-        std::vector<const double*> entries(4, zeros.data());
-        double* const dst = reinterpret_cast<double*>(&entries[1]);
-        EXPECT_EQ(callByName(nameOf<double>(true, size, "_L"),
-                             {{pointer(entries.data()), word(0), word(8 * size), pointer(dst), word(4)}}),
-                  tenkNullPointerError);
-        EXPECT_EQ(entries[0], zeros.data());
-        EXPECT_EQ(entries[1], nullptr);
-    }
+    for (unsigned size : {5U, 6U})
+        for (bool behind : {false, true}) { // objects in front of the list, or behind it
+            struct
+            {
+                double front[36];
+                const double* entries[4];
+                double back[36];
+            } m{};
+            const double* const zeros = behind ? m.back : m.front;
+            std::fill_n(m.entries, 4, zeros);
+            EXPECT_EQ(
+                callByName(nameOf<double>(true, size, "_L"),
+                           {{pointer(m.entries), word(0), word(8 * size), pointer(&m.entries[1]), word(4)}}),
+                tenkNullPointerError);
+            EXPECT_EQ(m.entries[0], zeros);
+            EXPECT_EQ(m.entries[1], nullptr);
+            EXPECT_EQ(m.entries[1 + sizeof(double) / sizeof(void*)], zeros); // of the second result
+        }
+}
+
+// One object, twice: five rows of five ones, each an element in front of the one before. The first result is
+// the first element of the last row.
+TEST(FrobNorm, OfRowsThatGoBackwardsReadsTheResultsOfEarlierObjects)
+{
+    std::vector<double> x(13, 1);
+    EXPECT_EQ(tenkFrobNorm_ma_64f_5x5(&x[4], 0, static_cast<std::uint32_t>(-8), x.data(), 2), tenkOk);
+    EXPECT_EQ(x[0], 5.0);
+    EXPECT_EQ(x[1], 7.0); // 24 ones and 5^2
+    EXPECT_EQ(x[2], 1.0);
 }
 
 TEST(FrobNorm, AddsTheShiftToAListOfMatricesWithoutGaps)

@@ -1,6 +1,7 @@
 // Trace: edge cases by hand, and all members against the plain sum.
 #include "tenk.h"
 
+#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <cstdint>
@@ -330,6 +331,23 @@ TEST(Trace, OfAListTestsEntriesObjectByObject)
                                  {a.arguments(), sizes(size, order), {pointer(t.data()), word(4)}}),
                       tenkNullPointerError);
             EXPECT_EQ(t, (std::vector<double>{double(order), double(order), 9, 9}));
+        }
+}
+
+// The same of lists without a shift, of matrices without gaps.
+TEST(Trace, OfAListWithoutGapsTestsEntriesObjectByObject)
+{
+    const Floats x = {1, 0, 0, 0, 2, 0, 0, 0, 3};
+    for (unsigned count : {1U, 4U, 7U, 8U, 9U})
+        for (unsigned nullAt = 0; nullAt <= count; ++nullAt) { // behind the list: there is none
+            std::vector<const float*> list(count, x.data());
+            if (nullAt < count)
+                list[nullAt] = nullptr;
+            Floats t(count + 1, 9), expected(count + 1, 9);
+            std::fill_n(expected.begin(), nullAt, 6.0F);
+            EXPECT_EQ(tenkTrace_ma_32f_3x3_L(list.data(), 0, 12, t.data(), count),
+                      nullAt < count ? tenkNullPointerError : tenkOk);
+            EXPECT_EQ(t, expected);
         }
 }
 
