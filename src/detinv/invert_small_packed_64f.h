@@ -100,24 +100,24 @@ TENK_INLINE void adjugateRows(const Rows& rows, Block<double, 4>& adjugate)
     };
     Pair c[4];
     const auto set = [&](unsigned i, Pair x) TENK_LAMBDA { c[i] = inRegister(x); };
-    const Pair next1 = exchanged(1);
-    const Products p01 = products(0, next1);
-    set(2, triples(3, p01));
-    set(3, triples(2, p01));
-    const Pair next2 = exchanged(2);
-    const Products p02 = products(0, next2);
-    set(1, triples(3, p02));
-    set(3, triples(1, p02) - c[3]);
-    const Products p12 = products(1, next2);
-    set(0, triples(3, p12));
-    set(3, c[3] - triples(0, p12));
     const Pair next3 = exchanged(3);
     const Products p03 = products(0, next3);
-    set(1, triples(2, p03) - c[1]);
-    set(2, c[2] - triples(1, p03));
+    set(1, triples(2, p03));
+    set(2, triples(1, p03));
+    const Pair next2 = exchanged(2);
+    const Products p02 = products(0, next2);
+    set(1, c[1] - triples(3, p02));
+    set(3, triples(1, p02));
+    const Pair next1 = exchanged(1);
+    const Products p01 = products(0, next1);
+    set(2, triples(3, p01) - c[2]);
+    set(3, c[3] - triples(2, p01));
     const Products p13 = products(1, next3);
-    set(0, c[0] - triples(2, p13));
+    set(0, triples(2, p13));
     set(2, c[2] + triples(0, p13));
+    const Products p12 = products(1, next2);
+    set(0, triples(3, p12) - c[0]);
+    set(3, c[3] - triples(0, p12));
     const Products p23 = products(2, next3);
     set(0, c[0] + triples(1, p23));
     set(1, c[1] - triples(0, p23));
@@ -262,7 +262,7 @@ struct Packed<double, 4>
     TENK_INLINE static bool invert(const DenseView<double>& from, const DenseView<double>& to)
     {
         const auto rows = [&](unsigned i, unsigned v)
-                              TENK_LAMBDA { return inRegister(loadVector<double>(from.at(i, 2 * v))); };
+                              TENK_LAMBDA { return loadVector<double>(from.at(i, 2 * v)); };
         Block<double, 4> inverse;
         if (!invertRows(rows, inverse))
             return false;
