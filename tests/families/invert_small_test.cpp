@@ -190,6 +190,25 @@ TEST(InvertSmall, OfPackedOrder4FindsNeighboursEqual)
         }
 }
 
+TEST(InvertSmall, OfPackedOrder4MultipliesProductsOut)
+{
+    // The block in rows and columns 2 and 3 has a determinant of one unit u. Cofactor (1, 1) is 2^20 of it,
+    // and cofactor (0, 0) three times: 3 u, but 3 (1 + u) - 3 x 1 rounds to 4 u. The determinant is 2^20 of
+    // that.
+    const auto check = [](auto unit) {
+        using T = decltype(unit);
+        Matrix a = diagonal({0x1p20, 3, 1 + static_cast<double>(unit), 1});
+        a[11] = a[14] = 1;
+        eachMember(Class::both, [&](const Member& m) {
+            const Result<T> r = invert<T>(m, a, 4);
+            EXPECT_EQ(r.status, tenkOk) << m.name<T>(4);
+            EXPECT_NEAR(r.at(4, 1, 1), m.packed() ? 0.25 : 1.0 / 3, 1e-6) << m.name<T>(4);
+        });
+    };
+    check(0x1p-23F);
+    check(0x1p-52);
+}
+
 TEST(InvertSmall, OfAnInfiniteDeterminantMultipliesByZero)
 {
     for (const std::size_t n : {3U, 4U}) {
