@@ -58,9 +58,9 @@ TENK_INLINE Quad exchangeLanes(Quad v)
 // The signed cofactors of each row, each the sum of six products of three elements, in lanes whose neighbours
 // are exchanged. In lane j, with [b] for lane j ^ b, those of row 0, which belong to column j ^ 1, are
 //     r1 (r2[3] r3[2] - r2[2] r3[3]) + r3 (r1[3] r2[2] - r1[2] r2[3]) - r2 (r1[3] r3[2] - r1[2] r3[3])
-// with the products multiplied out. Each pair of rows is done with before the next one is begun, which takes
-// the fewest registers. Two products that differ by an exchange of rows are subtracted before anything is
-// added, so those of a third row are 0 if two rows are equal.
+// with the products multiplied out. Each pair of rows is done with before the next one is begun, in the order
+// that takes the fewest registers. Two products that differ by an exchange of rows are subtracted before
+// anything is added, so those of a third row are 0 if two rows are equal.
 TENK_INLINE void cofactorsOf(const Quad (&r)[4], Quad (&c)[4])
 {
     struct Products
@@ -73,26 +73,25 @@ TENK_INLINE void cofactorsOf(const Quad (&r)[4], Quad (&c)[4])
     };
     const auto triples = [&](unsigned i, const Products& p)
                              TENK_LAMBDA { return r[i] * p.plus - r[i] * p.minus; };
-    const auto add = [&](unsigned to, Quad v) TENK_LAMBDA { c[to] = inRegister(c[to] + v); };
-    const auto subtract = [&](unsigned from, Quad v) TENK_LAMBDA { c[from] = inRegister(c[from] - v); };
-    const Products p01 = products(0, 1);
-    c[2] = inRegister(triples(3, p01));
-    c[3] = inRegister(triples(2, p01));
-    const Products p02 = products(0, 2);
-    c[1] = inRegister(triples(3, p02));
-    c[3] = inRegister(triples(1, p02) - c[3]);
+    const auto set = [&](unsigned i, Quad x) TENK_LAMBDA { c[i] = inRegister(x); };
     const Products p03 = products(0, 3);
-    c[1] = inRegister(triples(2, p03) - c[1]);
-    subtract(2, triples(1, p03));
-    const Products p12 = products(1, 2);
-    c[0] = inRegister(triples(3, p12));
-    subtract(3, triples(0, p12));
+    set(1, triples(2, p03));
+    set(2, triples(1, p03));
+    const Products p02 = products(0, 2);
+    set(1, c[1] - triples(3, p02));
+    set(3, triples(1, p02));
+    const Products p01 = products(0, 1);
+    set(2, triples(3, p01) - c[2]);
+    set(3, c[3] - triples(2, p01));
     const Products p13 = products(1, 3);
-    subtract(0, triples(2, p13));
-    add(2, triples(0, p13));
+    set(0, triples(2, p13));
+    set(2, c[2] + triples(0, p13));
+    const Products p12 = products(1, 2);
+    set(0, triples(3, p12) - c[0]);
+    set(3, c[3] - triples(0, p12));
     const Products p23 = products(2, 3);
-    add(0, triples(1, p23));
-    subtract(1, triples(0, p23));
+    set(0, c[0] + triples(1, p23));
+    set(1, c[1] - triples(0, p23));
 }
 
 TENK_INLINE void transpose(const Quad (&from)[4], Quad (&to)[4])

@@ -80,58 +80,76 @@ TENK_INLINE void readAgainIfRegistersAreFew()
 // Two rows of the adjugate of order 4, from 2 v on: the cofactors in vector v of each row, which take
 // products of two elements from the other vectors alone; rows(i, v) is vector v of row i. Six products of
 // three elements to a cofactor, as in 32f, its lanes exchanged as there, and each pair of rows done with
-// before the next one is begun.
+// before the next one is begun. In two parts: the first two pairs, and the others.
 template <unsigned v, typename Rows>
-TENK_INLINE void adjugateRows(const Rows& rows, Block<double, 4>& adjugate)
+struct AdjugateRows
 {
     struct Products
     {
         Pair plus, minus;
     };
-    const auto exchanged = [&](unsigned i) TENK_LAMBDA { return exchangePair(rows(i, 1 - v)); };
-    const auto products = [&](unsigned i, Pair next) TENK_LAMBDA {
+    const Rows& rows;
+    Pair c[4], next2, next3;
+
+    TENK_INLINE explicit AdjugateRows(const Rows& r) : rows(r) {}
+
+    TENK_INLINE Pair exchanged(unsigned i) const { return exchangePair(rows(i, 1 - v)); }
+    TENK_INLINE Products products(unsigned i, Pair next) const
+    {
         readAgainIfRegistersAreFew();
         const Pair minus = rows(i, 1 - v) * next;
-        return Products{exchangePair(minus), minus};
-    };
-    const auto triples = [&](unsigned i, const Products& p) TENK_LAMBDA {
+        return {exchangePair(minus), minus};
+    }
+    TENK_INLINE Pair triples(unsigned i, const Products& p) const
+    {
         const Pair r = rows(i, v);
         return r * p.plus - r * p.minus;
-    };
-    Pair c[4];
-    const auto set = [&](unsigned i, Pair x) TENK_LAMBDA { c[i] = inRegister(x); };
-    const Pair next1 = exchanged(1);
-    const Products p01 = products(0, next1);
-    set(2, triples(3, p01));
-    set(3, triples(2, p01));
-    const Pair next2 = exchanged(2);
-    const Products p02 = products(0, next2);
-    set(1, triples(3, p02));
-    set(3, triples(1, p02) - c[3]);
-    const Products p12 = products(1, next2);
-    set(0, triples(3, p12));
-    set(3, c[3] - triples(0, p12));
-    const Pair next3 = exchanged(3);
-    const Products p03 = products(0, next3);
-    set(1, triples(2, p03) - c[1]);
-    set(2, c[2] - triples(1, p03));
-    const Products p13 = products(1, next3);
-    set(0, c[0] - triples(2, p13));
-    set(2, c[2] + triples(0, p13));
-    const Products p23 = products(2, next3);
-    set(0, c[0] + triples(1, p23));
-    set(1, c[1] - triples(0, p23));
-    adjugate.row[2 * v] = {{inRegister(shuffle<1, 3>(c[0], c[1])), inRegister(shuffle<1, 3>(c[2], c[3]))},
-                           {}};
-    adjugate.row[2 * v + 1] = {{inRegister(shuffle<0, 2>(c[0], c[1])), inRegister(shuffle<0, 2>(c[2], c[3]))},
+    }
+    TENK_INLINE void set(unsigned i, Pair x) { c[i] = inRegister(x); }
+
+    TENK_INLINE void begin()
+    {
+        next3 = exchanged(3);
+        const Products p03 = products(0, next3);
+        set(1, triples(2, p03));
+        set(2, triples(1, p03));
+        next2 = exchanged(2);
+        const Products p02 = products(0, next2);
+        set(1, c[1] - triples(3, p02));
+        set(3, triples(1, p02));
+    }
+
+    TENK_INLINE void finish(Block<double, 4>& adjugate)
+    {
+        const Products p01 = products(0, exchanged(1));
+        set(2, triples(3, p01) - c[2]);
+        set(3, c[3] - triples(2, p01));
+        const Products p13 = products(1, next3);
+        set(0, triples(2, p13));
+        set(2, c[2] + triples(0, p13));
+        const Products p12 = products(1, next2);
+        set(0, triples(3, p12) - c[0]);
+        set(3, c[3] - triples(0, p12));
+        const Products p23 = products(2, next3);
+        set(0, c[0] + triples(1, p23));
+        set(1, c[1] - triples(0, p23));
+        adjugate.row[2 * v] = {{inRegister(shuffle<1, 3>(c[0], c[1])), inRegister(shuffle<1, 3>(c[2], c[3]))},
                                {}};
-}
+        adjugate.row[2 * v + 1] = {
+            {inRegister(shuffle<0, 2>(c[0], c[1])), inRegister(shuffle<0, 2>(c[2], c[3]))}, {}};
+    }
+};
 
 template <typename Rows>
 TENK_INLINE bool invertRows(const Rows& rows, Block<double, 4>& inverse)
 {
     Block<double, 4> adjugate;
-    adjugateRows<0>(rows, adjugate);
+    AdjugateRows<0, Rows> upper(rows);
+    upper.begin();
+    upper.finish(adjugate);
+    // Begun before the determinant, so that there is something to do while that is on its way.
+    AdjugateRows<1, Rows> lower(rows);
+    lower.begin();
     readAgainIfRegistersAreFew();
     // (a00 C00 + a20 C20) + (a10 C10 + a30 C30), in both lanes.
     const Pair terms = shuffle<0, 2>(rows(0, 0), rows(1, 0)) * adjugate.row[0].vector[0] +
@@ -139,9 +157,8 @@ TENK_INLINE bool invertRows(const Rows& rows, Block<double, 4>& inverse)
     const Pair determinant = terms + exchangePair(terms);
     if (determinant[0] == 0)
         return false;
-    // Divided while the other rows are on their way.
     const Pair reciprocal = broadcast(1.0) / determinant;
-    adjugateRows<1>(rows, adjugate);
+    lower.finish(adjugate);
     inverse = Block<double, 4>::map([&](Pair x) TENK_LAMBDA { return reciprocal * x; }, adjugate);
     return true;
 }
@@ -262,7 +279,7 @@ struct Packed<double, 4>
     TENK_INLINE static bool invert(const DenseView<double>& from, const DenseView<double>& to)
     {
         const auto rows = [&](unsigned i, unsigned v)
-                              TENK_LAMBDA { return inRegister(loadVector<double>(from.at(i, 2 * v))); };
+                              TENK_LAMBDA { return loadVector<double>(from.at(i, 2 * v)); };
         Block<double, 4> inverse;
         if (!invertRows(rows, inverse))
             return false;

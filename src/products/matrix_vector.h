@@ -75,7 +75,8 @@ TENK_INLINE tenkStatus matrixVector(Source<m, 0> src1, Size<m> src1Width, Size<m
 
     const std::size_t rowLength = transposed ? src1Height : src1Width; // in tables
     const auto run = [&](auto product) TENK_LAMBDA -> tenkStatus {
-        for (std::size_t k = 0; k < count; ++k) {
+        // Counts down, too: where registers are few, `count` is in memory and would be read for each object.
+        for (std::size_t k = 0, left = count; left != 0; ++k, --left) {
             if (anyNullObject(k, src1, src2, dst))
                 return tenkNullPointerError;
             if (const tenkStatus status = product(k); status != tenkOk)

@@ -226,6 +226,22 @@ TEST(DetSmall, Of64fLetsNaNAndInfinityThrough)
     letsThrough<double>();
 }
 
+TEST(DetSmall, OfTwoEqualRowsOrColumnsOfWholeNumbersIsZero)
+{
+    for (std::size_t n = 3; n <= 6; ++n)
+        for (std::size_t p = 0; p < n; ++p)
+            for (std::size_t q = 0; q < p; ++q)
+                for (const bool rows : {true, false}) {
+                    const Matrix equal = twoEqualRows(n, p, q),
+                                 a = rows ? equal : square::transposed(equal, n);
+                    const auto isZero = [&](auto code, auto layout, auto value) {
+                        EXPECT_EQ(value(a, n), 0) << code << n << layout << " " << p << q << rows;
+                    };
+                    eachMember<float>(isZero);
+                    eachMember<double>(isZero);
+                }
+}
+
 TEST(DetSmall, OfTwoEqualRowsIsOfRoundingSize)
 {
     std::mt19937 random(3);
@@ -257,7 +273,7 @@ void isClose()
 {
     std::mt19937 random(11);
     for (std::size_t n = 3; n <= 6; ++n)
-        for (auto kind : {wellConditioned, permuted, graded, leadingZeros})
+        for (auto kind : {wellConditioned, permuted, graded, leadingZeros, nearlySingular})
             for (int turn = 0; turn < 20; ++turn) {
                 const Matrix a = kind(n, random);
                 double products = 1; // no less than the sum of the magnitudes of all products

@@ -61,10 +61,13 @@ TEST(Det, TakesAnEarlierPivotAtTheFloorAndNotTheLastOne)
     EXPECT_EQ(determinant<float>({0x1p-23, 0, 0, 1}, 2), 0x1p-23F);
     EXPECT_EQ(determinant<float>({0x1.fffffep-24, 0, 0, 1}, 2), 0.0F);
     EXPECT_EQ(determinant<float>({1, 0, 0, 0x1p-23}, 2), 0.0F);
+    EXPECT_EQ(determinant<float>({1, 0, 0, 0x1.fffffep-24}, 2), 0.0F);
+    EXPECT_EQ(determinant<float>({0x1.000002p-23, 0, 0, 1}, 2), 0x1.000002p-23F);
     EXPECT_EQ(determinant<float>({1, 0, 0, 0x1.000002p-23}, 2), 0x1.000002p-23F);
     EXPECT_EQ(determinant<double>({0x1p-52, 0, 0, 1}, 2), 0x1p-52);
     EXPECT_EQ(determinant<double>({0x1.fffffffffffffp-53, 0, 0, 1}, 2), 0.0);
     EXPECT_EQ(determinant<double>({1, 0, 0, 0x1p-52}, 2), 0.0);
+    EXPECT_EQ(determinant<double>({1, 0, 0, 0x1.fffffffffffffp-53}, 2), 0.0);
     EXPECT_EQ(determinant<double>({1, 0, 0, 0x1.0000000000001p-52}, 2), 0x1.0000000000001p-52);
 }
 
@@ -72,6 +75,31 @@ TEST(Det, OfEqualRowsIsZero)
 {
     EXPECT_EQ(determinant<float>({1, 2, 3, 1, 2, 3, 1, 2, 3}, 3), 0.0F);
     EXPECT_EQ(determinant<double>({1, 2, 3, 1, 2, 3, 1, 2, 3}, 3), 0.0);
+}
+
+TEST(Det, OfTwoEqualRowsOrColumnsIsZero)
+{
+    // Pivots are 4 and 2 in row 3; rows 1 and 3 become (1, 4.5, 5.5) and (2, 0, 2), and row 1 (4.5, 4.5). All
+    // of row 2 is 0 by then.
+    const Matrix rows = {4, 8, 2, 6, 1, 3, 5, 7, 4, 8, 2, 6, 2, 6, 1, 5};
+    EXPECT_EQ(determinant<float>(rows, 4), 0.0F);
+    EXPECT_EQ(determinant<double>(rows, 4), 0.0);
+    // The second column is that of the pivot, 4: below it are 0 and, in column 2, 1 - 0.5 x 2 and 3 - 2.
+    const Matrix columns = {4, 4, 2, 2, 2, 1, 4, 4, 3};
+    EXPECT_EQ(determinant<float>(columns, 3), 0.0F);
+    EXPECT_EQ(determinant<double>(columns, 3), 0.0);
+}
+
+TEST(Det, LetsAnInfinitePivotThrough)
+{
+    // The factor is 0, what is below the pivot stays.
+    EXPECT_EQ(determinant<float>({infinity, 1, 1, 1}, 2), static_cast<float>(infinity));
+    EXPECT_EQ(determinant<double>({infinity, 1, 1, 1}, 2), infinity);
+    EXPECT_EQ(determinant<float>({1, 1, infinity, 1}, 2), static_cast<float>(-infinity));
+    EXPECT_EQ(determinant<double>({1, 1, -infinity, 1}, 2), infinity);
+    // 0 x inf is a NaN, which is no last pivot.
+    EXPECT_EQ(determinant<float>({infinity, infinity, 1, 1}, 2), 0.0F);
+    EXPECT_EQ(determinant<double>({infinity, infinity, 1, 1}, 2), 0.0);
 }
 
 TEST(Det, IsZeroWithANaNInAPivotOrBelowIt)
@@ -284,9 +312,9 @@ void determinantsAreClose()
 {
     std::mt19937 random(7);
     for (std::size_t n = 1; n <= 9; ++n)
-        for (auto kind : {wellConditioned, permuted, graded, leadingZeros})
+        for (auto kind : {wellConditioned, permuted, graded, leadingZeros, nearlySingular})
             for (int turn = 0; turn < 20; ++turn) {
-                if (n == 1 && kind == leadingZeros)
+                if (n == 1 && (kind == leadingZeros || kind == nearlySingular))
                     continue;
                 const Matrix a = kind(n, random);
                 double lengths = 1;

@@ -1,7 +1,6 @@
 // Invert of orders 3 to 6: edge cases by hand, and properties.
 #include "exact.h"
-#include "square.h"
-#include "tenk.h"
+#include "inverses.h"
 
 #include <algorithm>
 #include <numeric>
@@ -9,109 +8,7 @@
 
 namespace {
 
-using namespace square;
-
-constexpr double untouched = -9;
-
-struct Member
-{
-    std::string code, layout;
-
-    bool packed() const { return layout.empty() || layout == "_L"; }
-    bool array() const { return code == "ma"; }
-    template <typename T>
-    std::string name(std::size_t n) const
-    {
-        const std::string size = std::to_string(n);
-        return "tenkInvert_" + code + "_" + typeName<T>() + "_" + size + "x" + size + layout;
-    }
-};
-
-enum class Class
-{
-    packed,
-    scalar,
-    both
-};
-
-template <typename F>
-void eachMember(Class which, F f)
-{
-    for (const std::string code : {"m", "ma"})
-        for (const std::string& layout : layoutsOf(code)) {
-            const Member m{code, layout};
-            if (which == Class::both || m.packed() == (which == Class::packed))
-                f(m);
-        }
-}
-
-template <typename T>
-struct Result
-{
-    std::int32_t status;
-    std::vector<T> inverse;
-    T at(std::size_t n, std::size_t i, std::size_t j) const { return inverse[i * n + j]; }
-};
-
-Matrix diagonal(const Matrix& d)
-{
-    Matrix a(d.size() * d.size());
-    for (std::size_t i = 0; i < d.size(); ++i)
-        a[i * d.size() + i] = d[i];
-    return a;
-}
-
-// A batch has the matrix between two times the identity on either side.
-template <typename T>
-Result<T> invert(const Member& m, const Matrix& values, std::size_t n)
-{
-    const std::size_t count = m.array() ? 3 : 1, k = m.array() ? 1 : 0;
-    Objects<T> src(m.layout, n, count), dst(m.layout, n, count);
-    for (std::size_t other = 0; other < count; ++other)
-        src.set(other, diagonal(Matrix(n, 2)));
-    src.set(k, values);
-    dst.fill(T(untouched));
-    Arguments arguments;
-    src.addTo(arguments, m.array());
-    dst.addTo(arguments, m.array());
-    if (m.array())
-        arguments.push_back(word(3));
-    const std::string name = m.name<T>(n);
-    const std::int32_t status = callByName(name, arguments);
-    EXPECT_TRUE(dst.gapsAreUntouched()) << name;
-    if (m.array()) {
-        EXPECT_NEAR(dst.at(0, 1, 1), 0.5, 1e-6) << name;
-        if (status == tenkOk) {
-            EXPECT_NEAR(dst.at(2, 1, 1), 0.5, 1e-6) << name;
-        } else {
-            EXPECT_TRUE(dst.is(2, T(untouched))) << name;
-        }
-    }
-    return {status, dst.object(k)};
-}
-
-template <typename T>
-void expectSingular(Class which, const Matrix& values)
-{
-    const auto n = static_cast<std::size_t>(std::lround(std::sqrt(static_cast<double>(values.size()))));
-    eachMember(which, [&](const Member& m) {
-        const Result<T> r = invert<T>(m, values, n);
-        EXPECT_EQ(r.status, tenkSingularError) << m.name<T>(n);
-        // Two kinds of members may write before they know.
-        const bool cofactors = !m.packed() && n == 4, scratch = m.packed() && sizeof(T) == 4 && n >= 5;
-        if (!cofactors && !scratch) {
-            EXPECT_EQ(r.inverse, std::vector<T>(n * n, T(untouched))) << m.name<T>(n);
-        }
-    });
-}
-
-template <typename T>
-void expectRegular(Class which, const Matrix& values)
-{
-    const auto n = static_cast<std::size_t>(std::lround(std::sqrt(static_cast<double>(values.size()))));
-    eachMember(which,
-               [&](const Member& m) { EXPECT_EQ(invert<T>(m, values, n).status, tenkOk) << m.name<T>(n); });
-}
+using namespace inverses;
 
 // ---------------------------------------------------------------------------------------------------------------
 // What is singular
@@ -119,7 +16,8 @@ void expectRegular(Class which, const Matrix& values)
 
 // The binary32 number next to 1e-7 is above it.
 constexpr double outside32f = 0x1.ad7f2ap-24, inside32f = 0x1.ad7f28p-24;
-constexpr double outside64f = 1e-15, inside64f = 0x1.203af9ee75615p-50;
+constexpr double outside64f = 1e-15, inside64f = 0x1.203af9ee75615p-50, above64f = 0x1.203af9ee75617p-50;
+static_assert(above64f > 1e-15);
 static_assert(outside32f > 1e-7 && inside32f < 1e-7 && inside64f < 1e-15);
 
 template <typename T>
@@ -142,6 +40,7 @@ TEST(InvertSmall, OfScalarMembersTestsAnOpenBand)
         for (const std::size_t row : {n - 1, std::size_t{1}}) {
             testsTheBand<float>(n, row, outside32f, inside32f);
             testsTheBand<double>(n, row, outside64f, inside64f);
+            testsTheBand<double>(n, row, above64f, inside64f);
         }
 }
 
@@ -226,6 +125,107 @@ TEST(InvertSmall, OfPacked64fOrders4And6TestsTheDeterminant)
     expectRegular<double>(Class::packed, diagonal({1e200, 1e200, 1, 1}));
     expectSingular<double>(Class::packed, diagonal({1, 1, 1, 0, 1, 1}));
     expectRegular<double>(Class::packed, diagonal({1, 1, 1, 1e-200, 1, 1}));
+}
+
+TEST(InvertSmall, OfPackedOrders4And6TakesTheSmallestDeterminant)
+{
+    for (const double sign : {1.0, -1.0}) {
+        expectRegular<float>(Class::packed, diagonal({1, 1, 1, sign * 0x1p-149}));
+        expectRegular<double>(Class::packed, diagonal({1, 1, 1, sign * 0x1p-1074}));
+        expectRegular<double>(Class::packed, diagonal({1, 1, 1, 1, 1, sign * 0x1p-1074}));
+        expectSingular<float>(Class::packed, diagonal({1, 1, 1, sign * 0.0}));
+        expectSingular<double>(Class::packed, diagonal({1, 1, 1, sign * 0.0}));
+        expectSingular<double>(Class::packed, diagonal({1, 1, 1, 1, 1, sign * 0.0}));
+    }
+}
+
+// The determinant is 0 whichever way it is added up, but for packed 32f of orders 5 and 6, which divide
+// first.
+TEST(InvertSmall, OfTwoEqualRowsOrColumnsOfWholeNumbersIsSingular)
+{
+    for (std::size_t n = 3; n <= 4; ++n)
+        for (std::size_t p = 0; p < n; ++p)
+            for (std::size_t q = 0; q < p; ++q)
+                for (const bool rows : {true, false}) {
+                    const Matrix equal = twoEqualRows(n, p, q), a = rows ? equal : transposed(equal, n);
+                    expectSingular<float>(Class::both, a);
+                    expectSingular<double>(Class::scalar, a);
+                    if (n == 4)
+                        expectSingular<double>(Class::packed, a);
+                    else // has an infinite reciprocal
+                        expectRegular<double>(Class::packed, a);
+                }
+}
+
+TEST(InvertSmall, OfScalarOrder4LeavesOppositeCofactorsOfEqualRows)
+{
+    for (std::size_t p = 0; p < 4; ++p)
+        for (std::size_t q = 0; q < p; ++q)
+            eachMember(Class::scalar, [&](const Member& m) {
+                const Result<double> r = invert<double>(m, twoEqualRows(4, p, q), 4);
+                double sum = 0; // of magnitudes
+                for (std::size_t j = 0; j < 4; ++j)
+                    for (std::size_t i = 0; i < 4; ++i) {
+                        EXPECT_EQ(r.at(4, j, i), i == p   ? -r.at(4, j, q)
+                                                 : i == q ? -r.at(4, j, p)
+                                                          : 0)
+                            << m.name<double>(4) << p << q;
+                        sum += std::fabs(r.at(4, j, i));
+                    }
+                EXPECT_GT(sum, 0) << p << q;
+            });
+}
+
+// Whatever the numbers: cofactors of the other rows are exactly 0, and those of the two are opposite.
+TEST(InvertSmall, OfPackedOrder4FindsNeighboursEqual)
+{
+    std::mt19937 random(41);
+    for (int turn = 0; turn < 50; ++turn)
+        for (const std::size_t p : {0U, 2U}) {
+            Matrix a = wellConditioned(4, random);
+            std::copy_n(a.begin() + static_cast<std::ptrdiff_t>(4 * p), 4,
+                        a.begin() + static_cast<std::ptrdiff_t>(4 * p + 4));
+            expectSingular<float>(Class::packed, a);
+            expectSingular<double>(Class::packed, a);
+        }
+}
+
+TEST(InvertSmall, OfPackedOrder4MultipliesProductsOut)
+{
+    // The block in rows and columns 2 and 3 has a determinant of one unit u. Cofactor (1, 1) is 2^20 of it,
+    // and cofactor (0, 0) three times: 3 u, but 3 (1 + u) - 3 x 1 rounds to 4 u. The determinant is 2^20 of
+    // that.
+    const auto check = [](auto unit) {
+        using T = decltype(unit);
+        Matrix a = diagonal({0x1p20, 3, 1 + static_cast<double>(unit), 1});
+        a[11] = a[14] = 1;
+        eachMember(Class::both, [&](const Member& m) {
+            const Result<T> r = invert<T>(m, a, 4);
+            EXPECT_EQ(r.status, tenkOk) << m.name<T>(4);
+            EXPECT_NEAR(r.at(4, 1, 1), m.packed() ? 0.25 : 1.0 / 3, 1e-6) << m.name<T>(4);
+        });
+    };
+    check(0x1p-23F);
+    check(0x1p-52);
+}
+
+TEST(InvertSmall, OfAnInfiniteDeterminantMultipliesByZero)
+{
+    for (const std::size_t n : {3U, 4U}) {
+        Matrix d(n, 1);
+        d[0] = infinity;
+        const auto check = [&](const auto& r, bool nothingButNaN) {
+            EXPECT_EQ(r.status, tenkOk);
+            EXPECT_TRUE(nothingButNaN ? std::isnan(r.inverse[0]) : r.inverse[0] == 0);
+            EXPECT_TRUE(std::isnan(r.inverse[n + 1])); // 0 x inf
+        };
+        eachMember(Class::both, [&](const Member& m) {
+            check(invert<float>(m, diagonal(d), n), m.packed()); // the Newton step has inf x 0
+            if (n == 4 || !m.packed())
+                check(invert<double>(m, diagonal(d), n), false);
+        });
+    }
+    expectSingular<double>(Class::packed, diagonal({infinity, 1, 1}));
 }
 
 TEST(InvertSmall, OfPacked64fOrders5And6TestsPairsOfColumnsForTheBand)
@@ -717,7 +717,7 @@ void isClose()
 {
     std::mt19937 random(31);
     for (std::size_t n = 3; n <= 6; ++n)
-        for (auto kind : {wellConditioned, permuted, leadingZeros})
+        for (auto kind : {wellConditioned, permuted, graded, leadingZeros, nearlySingular})
             for (int turn = 0; turn < 20; ++turn) {
                 const Matrix a = kind(n, random);
                 const ExactInverse exact(a, n);

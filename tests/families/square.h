@@ -219,4 +219,35 @@ inline Matrix leadingZeros(std::size_t n, std::mt19937& random)
     return b;
 }
 
+// The last row is the one above it, but for 2^-8 at most.
+inline Matrix nearlySingular(std::size_t n, std::mt19937& random)
+{
+    std::uniform_real_distribution<double> number(-0x1p-8, 0x1p-8);
+    Matrix a = wellConditioned(n, random);
+    for (std::size_t j = 0; j < n; ++j)
+        a[(n - 1) * n + j] = rounded(a[(n - 2) * n + j] + number(random));
+    return a;
+}
+
+// Whole numbers of which every elimination and every cofactor is exact, and two rows the same.
+inline Matrix twoEqualRows(std::size_t n, std::size_t p, std::size_t q)
+{
+    Matrix a(n * n);
+    for (std::size_t i = 0; i < n; ++i)
+        for (std::size_t j = 0; j < n; ++j)
+            a[i * n + j] = i == j ? 4 : static_cast<double>((3 * i + 5 * j + i * j) % 7) - 3;
+    for (std::size_t j = 0; j < n; ++j)
+        a[q * n + j] = a[p * n + j];
+    return a;
+}
+
+inline Matrix transposed(const Matrix& a, std::size_t n)
+{
+    Matrix t(n * n);
+    for (std::size_t i = 0; i < n; ++i)
+        for (std::size_t j = 0; j < n; ++j)
+            t[j * n + i] = a[i * n + j];
+    return t;
+}
+
 } // namespace square
