@@ -588,4 +588,86 @@ TYPED_TEST(LUBackSubst, ResultsThatShareMemoryAreWrittenOneAfterTheOther)
     }
 }
 
+TYPED_TEST(LUBackSubst, AResultIsReadByALaterObject)
+{
+    // With the identity x = b. The result of an object is the right-hand side of the one that comes some
+    // objects later, so that the first right-hand sides come again and again.
+    using T = TypeParam;
+    constexpr std::size_t count = 24;
+    constexpr std::uint32_t row = 3 * sizeof(T);
+    const T identity[9] = {1, 0, 0, 0, 1, 0, 0, 0, 1};
+    std::uint32_t rows[3 * count];
+    for (std::size_t e = 0; e < 3 * count; ++e)
+        rows[e] = static_cast<std::uint32_t>(e % 3);
+    for (std::size_t later : {1, 2, 3, 5, 8, 9, 15, 16})
+        for (int member = 0; member < 4; ++member) {
+            std::vector<T> memory(3 * (count + later), 7);
+            for (std::size_t e = 0; e < 3 * later; ++e)
+                memory[e] = static_cast<T>(e + 1);
+            T* const x = &memory[3 * later];
+            const std::vector<const T*> factors(count, identity);
+            std::vector<const T*> src2;
+            std::vector<T*> dst;
+            for (std::size_t k = 0; k < count; ++k) {
+                src2.push_back(&memory[3 * k]);
+                dst.push_back(x + 3 * k);
+            }
+            if constexpr (sizeof(T) == 4)
+                member == 0
+                    ? tenkLUBackSubst_mva_32f_3x3(identity, 0, row, rows, &memory[0], row, x, row, count)
+                : member == 1
+                    ? tenkLUBackSubst_mava_32f_3x3(identity, 0, row, rows, &memory[0], row, x, row, count)
+                : member == 2
+                    ? tenkLUBackSubst_mva_32f_3x3_L(identity, 0, row, rows, &src2[0], 0, &dst[0], 0, count)
+                    : tenkLUBackSubst_mava_32f_3x3_L(&factors[0], 0, row, rows, &src2[0], 0, &dst[0], 0,
+                                                     count);
+            else
+                member == 0
+                    ? tenkLUBackSubst_mva_64f_3x3(identity, 0, row, rows, &memory[0], row, x, row, count)
+                : member == 1
+                    ? tenkLUBackSubst_mava_64f_3x3(identity, 0, row, rows, &memory[0], row, x, row, count)
+                    : tenkLUBackSubst_mava_64f_3x3_L(&factors[0], 0, row, rows, &src2[0], 0, &dst[0], 0,
+                                                     count);
+            for (std::size_t e = 0; e < memory.size(); ++e)
+                EXPECT_EQ(memory[e], static_cast<T>(e % (3 * later) + 1))
+                    << later << " " << member << " " << e;
+        }
+}
+
+TYPED_TEST(LUBackSubst, TheOneFactorIsReadAgainAfterAResultHasChangedIt)
+{
+    // The result of object 0 is row 0 of the identity: y = (2, 3, 0) and x = ((2 - (3 x 3 + 0)) / 2, 3, 0)
+    // there. The others are solved with that row: x[0] = (3 k + 7 - 3 k) / (-7/2).
+    using T = TypeParam;
+    constexpr std::size_t count = 20;
+    constexpr std::uint32_t row = 3 * sizeof(T);
+    const std::uint32_t rows[3] = {0, 1, 2};
+    std::vector<T> b = {2, 3, 0};
+    for (std::size_t k = 1; k < count; ++k)
+        for (T element : {static_cast<T>(3 * k + 7), static_cast<T>(k), T{1}})
+            b.push_back(element);
+    for (bool list : {false, true}) {
+        std::vector<T> memory(9 * count);
+        memory[0] = memory[4] = memory[8] = 1;
+        std::vector<const T*> src2;
+        std::vector<T*> dst;
+        for (std::size_t k = 0; k < count; ++k) {
+            src2.push_back(&b[3 * k]);
+            dst.push_back(&memory[9 * k]);
+        }
+        if constexpr (sizeof(T) == 4)
+            list ? tenkLUBackSubst_mva_32f_3x3_L(&memory[0], 0, row, rows, &src2[0], 0, &dst[0], 0, count)
+                 : tenkLUBackSubst_mva_32f_3x3(&memory[0], 0, row, rows, &b[0], row, &memory[0], 3 * row,
+                                               count);
+        else if (!list)
+            tenkLUBackSubst_mva_64f_3x3(&memory[0], 0, row, rows, &b[0], row, &memory[0], 3 * row, count);
+        else
+            continue; // which reads its factor with another step
+        EXPECT_TRUE(same({memory[0], memory[1], memory[2]}, std::vector<T>{T(-3.5), 3, 0})) << list;
+        for (std::size_t k = 1; k < count; ++k)
+            EXPECT_TRUE(same({dst[k][0], dst[k][1], dst[k][2]}, std::vector<T>{-2, static_cast<T>(k), 1}))
+                << list << k;
+    }
+}
+
 } // namespace
