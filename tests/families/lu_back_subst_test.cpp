@@ -554,6 +554,28 @@ TYPED_TEST(LUBackSubst, ARowOutOfRangeIsReadWhenItsObjectIsReached)
     EXPECT_TRUE(same(results(), std::vector<T>{1, 2, 1, 3, 5, -9, 4, 1, -4, 2, 6, 16}));
 }
 
+TYPED_TEST(LUBackSubst, ARowOutOfRangeOfOrder4IsReadWhenItsObjectIsReached)
+{
+    // As above: row 4 of the identity is the solution (1, 2, 1, 4) of object 0, for object 1 the last row of
+    // the factor. b[4] is 39, the first element of object 2: y[3] = 39 - (3 + 10 + 2) and x[3] = 24 / 4.
+    using T = TypeParam;
+    constexpr std::uint32_t row = 4 * sizeof(T);
+    std::vector<T> memory = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
+    memory.resize(16 + 8 * 4, 7);
+    std::uint32_t rows[32];
+    for (std::size_t e = 0; e < 32; ++e)
+        rows[e] = e == 7 ? 4U : static_cast<std::uint32_t>(e % 4);
+    std::vector<T> b = {1, 2, 1, 4, 3, 5, 2, 9, 39};
+    while (b.size() < 32)
+        b.push_back(static_cast<T>(b.size()));
+    if constexpr (sizeof(T) == 4)
+        tenkLUBackSubst_mava_32f_4x4(&memory[0], 0, row, rows, &b[0], row, &memory[16], row, 8);
+    else
+        tenkLUBackSubst_mava_64f_4x4(&memory[0], 0, row, rows, &b[0], row, &memory[16], row, 8);
+    b[7] = 6;
+    EXPECT_TRUE(same(std::vector<T>(memory.begin() + 16, memory.end()), b));
+}
+
 TYPED_TEST(LUBackSubst, ResultsThatShareMemoryAreWrittenOneAfterTheOther)
 {
     // With the identity x = b. Each result begins at the second element of the one before, by a step and by
