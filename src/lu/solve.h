@@ -311,7 +311,9 @@ struct LUSolveGroups
         const auto step = [&](const Systems& now, Systems& then) TENK_LAMBDA {
             const std::size_t next = k + objects;
             const bool more = mayReadAhead(next, k);
-            const std::size_t loaded = more ? next : k; // at the end the last ones once more
+            // At the end the last ones once more: behind a branch the compiler would put off all loading
+            // until the solution is done.
+            const std::size_t loaded = more ? next : k;
             const Factors a(src1, matrices, loaded);
             const RightSides b(src2, rightSides, loaded);
             solve(k, now, [&](auto i) TENK_LAMBDA { load(loaded, a, b, i, then); });
