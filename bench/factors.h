@@ -192,4 +192,126 @@ void gridAndGeneralOrders()
     orders.template operator()<double, Layout::Pointer>();
 }
 
+// The two families: their names, their sizes in general order, their peer, and how many words of working
+// memory a batch has; `Word` is also what the plain loop keeps of each row.
+template <typename T, unsigned n>
+struct LU
+{
+    static constexpr const char *decomp = "LUDecomp", *backSubst = "LUBackSubst";
+    static constexpr unsigned sizes = 1;
+    using Peer = Eigen::PartialPivLU<Eigen::Matrix<T, n, n, Eigen::RowMajor>>;
+    using Word = std::uint32_t; // a row index for each object
+    static std::size_t words(unsigned count) { return std::size_t{n} * count; }
+    static void factor(T* a, Word* rows) { luLoop<n>(a, rows); }
+    static void solve(const T* a, const Word* rows, const T* b, T* x) { luSolveLoop<n>(a, rows, b, x); }
+};
+template <typename T, unsigned n>
+struct QR
+{
+    static constexpr const char *decomp = "QRDecomp", *backSubst = "QRBackSubst";
+    static constexpr unsigned sizes = 2;
+    using Peer = Eigen::HouseholderQR<Eigen::Matrix<T, n, n, Eigen::RowMajor>>;
+    using Word = T; // one buffer
+    static std::size_t words(unsigned) { return n; }
+    static void factor(T* a, Word* tau) { qrLoop<n>(a, tau); }
+    static void solve(const T* a, const Word* tau, const T* b, T* x) { qrSolveLoop<n>(a, tau, b, x); }
+};
+
+template <template <typename, unsigned> typename Family, bool general>
+struct Decompose
+{
+    template <typename T, unsigned n, Layout layout>
+    void operator()(unsigned count) const
+    {
+        using F = Family<T, n>;
+        using Words = std::vector<typename F::Word>;
+        const std::string function = memberOf<T, n, layout>(F::decomp, "ma", general);
+        const Case c{caseName<n>(function, general), count};
+        using Objects = Matrices<T, layout, n>;
+        auto a = std::make_shared<Objects>(count, 1), d = std::make_shared<Objects>(count, 2);
+        auto words = std::make_shared<Words>(F::words(count));
+        contestant(c, "tenk",
+                   [a, d, words,
+                    run = bench::bind(function, a->array(), std::make_tuple(words->data()), d->array(),
+                                      sizes<general, n, F::sizes>(), std::make_tuple(std::uint32_t{count}))] {
+                       run();
+                   });
+        auto factors = std::make_shared<std::vector<typename F::Peer>>(count);
+        contestant(c, "Eigen", [a, factors, count] {
+            for (unsigned k = 0; k < count; ++k)
+                (*factors)[k].compute(a->eigen(k));
+        });
+        auto ofRows = std::make_shared<Words>(std::size_t{n} * count);
+        contestant(c, "loop", [a, d, ofRows, count] {
+            for (unsigned k = 0; k < count; ++k) {
+                T m[n * n];
+                copyOut<n>(*a, k, m);
+                F::factor(m, ofRows->data() + k * n);
+                for (unsigned i = 0; i < n; ++i)
+                    for (unsigned j = 0; j < n; ++j)
+                        *d->at(k, i, j) = m[i * n + j];
+            }
+        });
+    }
+};
+
+// A factor for each right-hand side, or one for all.
+template <template <typename, unsigned> typename Family, bool general, bool oneFactor>
+struct Solve
+{
+    template <typename T, unsigned n, Layout layout>
+    void operator()(unsigned count) const
+    {
+        using F = Family<T, n>;
+        using Words = std::vector<typename F::Word>;
+        // The single factor of a list is no list.
+        constexpr Layout factorLayout = oneFactor && layout == Layout::List ? Layout::Standard : layout;
+        const unsigned factorCount = oneFactor ? 1 : count;
+        const std::string function =
+            memberOf<T, n, layout>(F::backSubst, oneFactor ? "mva" : "mava", general);
+        const Case c{caseName<n>(function, general), count};
+        auto a = std::make_shared<Matrices<T, factorLayout, n>>(factorCount, 1);
+        auto f = std::make_shared<Matrices<T, factorLayout, n>>(factorCount, 2);
+        auto words = std::make_shared<Words>(F::words(factorCount));
+        bench::bind(memberOf<T, n, factorLayout>(F::decomp, "ma", general), a->array(),
+                    std::make_tuple(words->data()), f->array(), sizes<general, n, F::sizes>(),
+                    std::make_tuple(std::uint32_t{factorCount}))();
+
+        using Vectors = Batch<T, layout, 1, n>;
+        auto b = std::make_shared<Vectors>(count, 3), x = std::make_shared<Vectors>(count, 4);
+        const auto run = [&](auto factor) {
+            return bench::bind(function, factor, std::make_tuple(words->data()), b->array(), x->array(),
+                               sizes<general, n, F::sizes>(), std::make_tuple(std::uint32_t{count}));
+        };
+        if constexpr (oneFactor)
+            contestant(c, "tenk", [f, b, x, words, run = run(f->factor())] { run(); });
+        else
+            contestant(c, "tenk", [f, b, x, words, run = run(f->array())] { run(); });
+
+        auto factors = std::make_shared<std::vector<typename F::Peer>>(factorCount);
+        auto dense = std::make_shared<std::vector<T>>(std::size_t{n} * n * factorCount);
+        auto ofRows = std::make_shared<Words>(std::size_t{n} * factorCount);
+        for (unsigned k = 0; k < factorCount; ++k) {
+            (*factors)[k].compute(a->eigen(k));
+            copyOut<n>(*a, k, dense->data() + k * n * n);
+            F::factor(dense->data() + k * n * n, ofRows->data() + k * n);
+        }
+        contestant(c, "Eigen", [factors, b, x, count] {
+            for (unsigned k = 0; k < count; ++k)
+                x->eigen(k) = (*factors)[oneFactor ? 0 : k].solve(b->eigen(k));
+        });
+        contestant(c, "loop", [dense, ofRows, b, x, count] {
+            for (unsigned k = 0; k < count; ++k) {
+                const std::size_t factor = oneFactor ? 0 : k;
+                T right[n], solution[n];
+                for (unsigned i = 0; i < n; ++i)
+                    right[i] = *b->at(k, 0, i);
+                F::solve(dense->data() + factor * n * n, ofRows->data() + factor * n, right, solution);
+                for (unsigned i = 0; i < n; ++i)
+                    *x->at(k, 0, i) = solution[i];
+            }
+        });
+    }
+};
+
 } // namespace bench

@@ -37,33 +37,19 @@ template <unsigned order, unsigned entries>
 TENK_INLINE bool rowsInRange(Address rowIndex)
 {
     constexpr unsigned four = entries / 4;
+    constexpr bool bitsTell = (order & (order - 1)) == 0; // those of all rows together
+    const auto tooLarge = [](Mask<float> rows)
+                              TENK_LAMBDA { return rows > Mask<float>{} + static_cast<int>(order - 1); };
     Mask<float> outside{}; // by its sign
     each<four>([&](auto v) TENK_LAMBDA {
         const auto rows = load<Mask<float>>(rowIndex + v * 16);
-        outside |= rows | (rows > Mask<float>{} + static_cast<int>(order - 1));
+        outside |= bitsTell ? rows : rows | tooLarge(rows);
     });
+    if constexpr (bitsTell)
+        outside |= tooLarge(outside);
     bool inRange = !any(outside);
     each<entries % 4>([&](auto e) TENK_LAMBDA { inRange &= rowAt(rowIndex, four * 4 + e) < order; });
     return inRange;
-}
-
-// Whether no row was exchanged.
-template <unsigned order, unsigned entries>
-TENK_INLINE bool rowsInOrder(Address rowIndex)
-{
-    constexpr unsigned four = entries / 4;
-    Mask<float> exchanged{};
-    each<four>([&](auto v) TENK_LAMBDA {
-        constexpr int e = static_cast<int>(v) * 4, n = order;
-        exchanged |=
-            load<Mask<float>>(rowIndex + v * 16) ^ Mask<float>{e % n, (e + 1) % n, (e + 2) % n, (e + 3) % n};
-    });
-    bool inOrder = all(exchanged == Mask<float>{});
-    each<entries % 4>([&](auto e) TENK_LAMBDA {
-        constexpr std::size_t entry = four * 4 + e;
-        inOrder &= rowAt(rowIndex, entry) == entry % order;
-    });
-    return inOrder;
 }
 
 // One object, in place in dst.
@@ -100,36 +86,56 @@ consteval bool luSolvesSideBySide(Member m)
     return m.batch() && !m.general() && isDense(m.layout);
 }
 
-// Groups that take turns: with one factor almost every operation waits for the one before. With a factor for
-// each object, bringing the elements side by side is work enough meanwhile, and so are the tests of a list.
+// Groups that take turns: in a solution almost every operation waits for the one before. The addresses of a
+// list fill the registers of i386 with one group.
 consteval unsigned luSolveTurns(Member m)
 {
-    return m.type == Type::f32 && m.layout == Layout::Standard && !m.operand[0].array ? 2 : 1;
+    const bool fewRegisters = sizeof(Address) == 4 && isList(m.layout);
+    return m.type == Type::f32 && !fewRegisters ? 2 : 1;
 }
 
-template <typename T, unsigned n, unsigned turns>
-TENK_INLINE void luSolve(const Vector<T> (&factor)[n][n], Vector<T> (&x)[turns][n])
+// Calls meanwhile(i) for each position i on the way: work that does not have to wait.
+template <typename T, unsigned n, unsigned factors, unsigned turns, typename F>
+TENK_INLINE void luSolve(const Vector<T> (&factor)[factors][n][n], Vector<T> (&x)[turns][n], F meanwhile)
 {
+    const auto element = [&](auto t, auto i, auto j)
+                             TENK_LAMBDA { return factor[factors == 1 ? 0 : t][i][j]; };
     // The difference of unknown i and its sum from column `first` on.
     const auto subtract = [&](auto i, auto first, auto columns) TENK_LAMBDA {
         Vector<T> sum[turns];
         each<turns>([&](auto t) TENK_LAMBDA { sum[t] = broadcast<T>(0); });
         each<columns>([&](auto c) TENK_LAMBDA {
             constexpr std::size_t j = first + c;
-            each<turns>([&](auto t) TENK_LAMBDA { sum[t] = sum[t] + factor[i][j] * x[t][j]; });
+            each<turns>([&](auto t) TENK_LAMBDA { sum[t] = sum[t] + element(t, i, j) * x[t][j]; });
         });
         each<turns>([&](auto t) TENK_LAMBDA { x[t][i] = x[t][i] - sum[t]; });
     };
     const auto divide = [&](auto i) TENK_LAMBDA {
-        each<turns>([&](auto t) TENK_LAMBDA { x[t][i] = x[t][i] / factor[i][i]; });
+        each<turns>([&](auto t) TENK_LAMBDA { x[t][i] = x[t][i] / element(t, i, i); });
     };
     each<n - 1>([&](auto before) TENK_LAMBDA { subtract(index<before + 1>, index<0>, index<before + 1>); });
+    meanwhile(index<0>);
     divide(index<n - 1>);
     each<n - 1>([&](auto after) TENK_LAMBDA {
         constexpr std::size_t i = n - 2 - after;
+        meanwhile(index<after + 1>);
         subtract(index<i>, index<i + 1>, index<n - 1 - i>);
         divide(index<i>);
     });
+}
+
+// One element of each object, loaded to where it stays: the compiler would take it by way of a general
+// register or the stack.
+TENK_INLINE Vector<float> elementOfEach(const Addresses<float>& from)
+{
+    const auto load = [&](std::size_t g)
+                          TENK_LAMBDA { return _mm_load_ss(reinterpret_cast<const float*>(from.of[g])); };
+    return _mm_movelh_ps(_mm_unpacklo_ps(load(0), load(1)), _mm_unpacklo_ps(load(2), load(3)));
+}
+TENK_INLINE Vector<double> elementOfEach(const Addresses<double>& from)
+{
+    const auto first = _mm_load_sd(reinterpret_cast<const double*>(from.of[0]));
+    return _mm_loadh_pd(first, reinterpret_cast<const double*>(from.of[1]));
 }
 
 // The batch so many groups at a time.
@@ -139,84 +145,184 @@ struct LUSolveGroups
     using T = Element<m>;
     static constexpr unsigned n = m.size, objects = turns * group<T>;
     static constexpr bool oneFactor = !m.operand[0].array;
-    static_assert(oneFactor || turns == 1);
+    using Factors = Side<Source<m, 0>, n, n, objects>;
+    using RightSides = Side<Source<m, 1>, 1, n, objects>;
+    using Results = Side<Destination<m>, 1, n, objects>;
+
+    // What is read of the objects, in the order of the positions; with one factor the right-hand sides alone,
+    // in the order of the rows.
+    struct Systems
+    {
+        Vector<T> rightSide[turns][n];
+        Vector<T> factor[turns][n][n];
+    };
 
     const Source<m, 0>& src1;
     const Source<m, 1>& src2;
     const Destination<m>& dst;
     Address rowIndex;
-    Span<Source<m, 0>, n, n, objects> matrices{src1, false};
-    Span<Source<m, 1>, 1, n, objects> rightSides{src2, false};
-    Span<Destination<m>, 1, n, objects> results{dst, true};
-    Vector<T> factor[n][n];  // in the order of the positions
-    std::size_t position[n]; // those of one factor
-    bool apart = false;      // throughout the batch
-    bool loaded = false;     // which is done once
+    std::size_t count;
+    typename Factors::Reach matrices{src1, false};
+    typename RightSides::Reach rightSides{src2, false};
+    typename Results::Reach results{dst, true};
+    bool apart = false;        // throughout the batch
+    Vector<T> factor[1][n][n]; // the one factor, in the order of the positions
+    std::size_t position[n];   // and those
 
     TENK_INLINE LUSolveGroups(const Source<m, 0>& src1, Address rowIndex, const Source<m, 1>& src2,
                               const Destination<m>& dst, std::size_t count)
-        : src1(src1), src2(src2), dst(dst), rowIndex(rowIndex)
+        : src1(src1), src2(src2), dst(dst), rowIndex(rowIndex), count(count)
     {
         apart = count > 0 && apartThroughout(src1, matrices, dst, results, count) &&
                 apartThroughout(src2, rightSides, dst, results, count);
     }
 
-    TENK_INLINE bool fit() const { return matrices.fits && rightSides.fits && results.fits; }
-
-    // False if it has rows of its own.
-    TENK_INLINE bool loadOneFactor()
+    // Whether as many objects are there, no step is a long one, and no list has a null entry for them.
+    TENK_INLINE bool areThere(std::size_t k) const
     {
-        if (!rowsInRange<n, n>(rowIndex))
-            return false;
-        const auto view = luFactor<m>(src1, 0, n);
-        each<n>([&](auto i) TENK_LAMBDA {
-            position[i] = rowAt(rowIndex, i);
-            each<n>([&](auto j) TENK_LAMBDA { factor[i][j] = broadcast(load<T>(view.at(position[i], j))); });
-        });
-        return true;
+        return matrices.fits && rightSides.fits && results.fits && count - k >= objects &&
+               noNullObject<objects>(k, src1, src2, dst);
     }
 
-    // The group that begins with object k. False, with nothing written, if something could tell.
-    TENK_INLINE bool solve(std::size_t k)
+    TENK_INLINE Address rowsOf(std::size_t k) const
     {
-        if (!noNullObject<objects>(k, src1, src2, dst))
-            return false;
-        const Side<Source<m, 0>, n, n, objects> a(src1, matrices, k);
-        const Side<Source<m, 1>, 1, n, objects> b(src2, rightSides, k);
-        const Side<Destination<m>, 1, n, objects> to(dst, results, k);
-        if (!to.eachApart() || (!apart && (!mayReadFirst(a, to, false) || !mayReadFirst(b, to, false))))
-            return false;
-        Vector<T> x[turns][n];
+        return oneFactor ? rowIndex : rowIndex + k * n * sizeof(std::uint32_t);
+    }
+    // Whether the entries of rowIndex are rows.
+    TENK_INLINE bool haveRows(std::size_t k) const
+    {
+        constexpr unsigned entries = oneFactor ? n : n * objects;
+        return rowsInRange<n, entries>(rowsOf(k));
+    }
+
+    // The one factor, which stays as it is as long as groups are solved.
+    TENK_INLINE void loadOneFactor()
+    {
         if constexpr (oneFactor) {
-            if (!loaded && !loadOneFactor())
-                return false;
-            loaded = true;
-            each<turns>([&](auto t) TENK_LAMBDA {
-                Vector<T> rightSide[n];
-                loadSideBySide<n>(b.rowOfEach(0, t * group<T>), rightSide);
-                each<n>([&](auto i) TENK_LAMBDA { x[t][i] = rightSide[position[i]]; });
-            });
-        } else {
-            const Address first = rowIndex + k * n * sizeof(std::uint32_t);
-            if (rowsInOrder<n, n * objects>(first)) {
-                loadMatrices(a, factor);
-                loadSideBySide<n>(b.rowOfEach(0), x[0]);
-            } else if (rowsInRange<n, n * objects>(first)) {
-                each<n>([&](auto i) TENK_LAMBDA {
-                    const auto row = [&](std::size_t g) TENK_LAMBDA { return rowAt(first, g * n + i); };
-                    const auto ofFactor = [&](std::size_t g) TENK_LAMBDA { return a.object[g].row(row(g)); };
-                    const auto ofRightSide = [&](std::size_t g)
-                                                 TENK_LAMBDA { return b.object[g].at(0, row(g)); };
-                    loadSideBySide<n>(Addresses<T>::make(ofFactor), factor[i]);
-                    x[0][i] = gather(Addresses<T>::make(ofRightSide));
+            const auto view = luFactor<m>(src1, 0, n);
+            each<n>([&](auto i) TENK_LAMBDA {
+                position[i] = rowAt(rowIndex, i);
+                each<n>([&](auto j) TENK_LAMBDA {
+                    factor[0][i][j] = broadcast(tenk::load<T>(view.at(position[i], j)));
                 });
-            } else {
-                return false;
-            }
+            });
         }
-        luSolve<T>(factor, x);
+    }
+
+    // Position i of the objects from k on.
+    template <std::size_t i>
+    TENK_INLINE void load(std::size_t k, const Factors& a, const RightSides& b, Index<i>, Systems& to) const
+    {
+        each<turns>([&](auto t) TENK_LAMBDA {
+            constexpr std::size_t first = t * group<T>;
+            if constexpr (oneFactor) {
+                if constexpr (i == 0)
+                    loadSideBySide<n>(b.rowOfEach(0, first), to.rightSide[t]);
+            } else {
+                std::size_t row[group<T>];
+                each<group<T>>([&](auto g) TENK_LAMBDA { row[g] = rowAt(rowsOf(k), (first + g) * n + i); });
+                const auto ofRightSide = [&](std::size_t g)
+                                             TENK_LAMBDA { return b.object[first + g].at(0, row[g]); };
+                const auto ofFactor = [&](std::size_t g)
+                                          TENK_LAMBDA { return a.object[first + g].row(row[g]); };
+                to.rightSide[t][i] = elementOfEach(Addresses<T>::make(ofRightSide));
+                loadSideBySide<n>(Addresses<T>::make(ofFactor), to.factor[t][i]);
+            }
+        });
+    }
+    TENK_INLINE void load(std::size_t k, Systems& to) const
+    {
+        const Factors a(src1, matrices, k);
+        const RightSides b(src2, rightSides, k);
+        each<n>([&](auto i) TENK_LAMBDA { load(k, a, b, i, to); });
+    }
+
+    // Solves and stores the objects from k on.
+    template <typename F>
+    TENK_INLINE void solve(std::size_t k, const Systems& systems, F meanwhile) const
+    {
+        Vector<T> x[turns][n];
+        each<turns>([&](auto t) TENK_LAMBDA {
+            each<n>([&](auto i) TENK_LAMBDA { x[t][i] = systems.rightSide[t][oneFactor ? position[i] : i]; });
+        });
+        if constexpr (oneFactor)
+            luSolve<T>(factor, x, meanwhile);
+        else
+            luSolve<T>(systems.factor, x, meanwhile);
+        const Results to(dst, results, k);
         each<turns>([&](auto t) TENK_LAMBDA { storeSideBySide<n>(to.rowOfEach(0, t * group<T>), x[t]); });
-        return true;
+    }
+
+    // From object k on, each group before the next one, as long as nothing could tell. The object that is
+    // next.
+    TENK_INLINE std::size_t inSequence(std::size_t k)
+    {
+        for (bool loaded = false; areThere(k); k += objects) {
+            const Factors a(src1, matrices, k);
+            const RightSides b(src2, rightSides, k);
+            const Results to(dst, results, k);
+            if (!to.eachApart() || (!apart && (!mayReadFirst(a, to, false) || !mayReadFirst(b, to, false))) ||
+                !haveRows(k))
+                break;
+            if (!loaded)
+                loadOneFactor();
+            loaded = true;
+            Systems systems;
+            load(k, systems);
+            solve(k, systems, [](auto) TENK_LAMBDA {});
+        }
+        return k;
+    }
+
+    // Whether nothing could tell that the objects from k on are read before the results from object `written`
+    // on are written. Those of a list have to lie in ascending order, with nothing in between that is read.
+    TENK_INLINE bool mayReadAhead(std::size_t k, std::size_t written) const
+    {
+        if (!areThere(k) || !haveRows(k))
+            return false;
+        bool may = true;
+        if constexpr (Destination<m>::list) {
+            const Factors a(src1, matrices, k);
+            const RightSides b(src2, rightSides, k);
+            const Results to(dst, results, k);
+            const Address first = dst.object(written, n).start;
+            Address behind = k == written ? first : dst.object(k - 1, n).start + results.length;
+            each<objects>([&](auto g) TENK_LAMBDA {
+                may &= to.object[g].start - behind <= Address{results.nearby};
+                behind = to.object[g].start + results.length;
+            });
+            const Bytes all{first, behind - first};
+            each<Factors::size>([&](auto g) TENK_LAMBDA { may &= tenk::apart(all, a.bytesOf(g)); });
+            each<objects>([&](auto g) TENK_LAMBDA { may &= tenk::apart(all, b.bytesOf(g)); });
+        } else {
+            may = apart;
+        }
+        return may;
+    }
+
+    // The same, but while groups are solved the next ones are loaded.
+    TENK_INLINE std::size_t readingAhead(std::size_t k)
+    {
+        if (!mayReadAhead(k, k))
+            return k;
+        loadOneFactor();
+        Systems systems[2];
+        load(k, systems[0]);
+        const auto step = [&](const Systems& now, Systems& then) TENK_LAMBDA {
+            const std::size_t next = k + objects;
+            const bool more = mayReadAhead(next, k);
+            // At the end the last ones once more: behind a branch the compiler would put off all loading
+            // until the solution is done.
+            const std::size_t loaded = more ? next : k;
+            const Factors a(src1, matrices, loaded);
+            const RightSides b(src2, rightSides, loaded);
+            solve(k, now, [&](auto i) TENK_LAMBDA { load(loaded, a, b, i, then); });
+            k = next;
+            return more;
+        };
+        while (step(systems[0], systems[1]) && step(systems[1], systems[0])) {
+        }
+        return k;
     }
 };
 
@@ -247,13 +353,8 @@ TENK_INLINE tenkStatus luBackSubst(Source<m, 0> src1, const std::uint32_t* rowIn
     [[maybe_unused]] auto alone = luSolveGroups<m, 1>(src1, rows, src2, dst, count);
     for (std::size_t k = 0; k < count; ++k) {
         if constexpr (luSolvesSideBySide(m)) {
-            const auto all = [&](auto& groups) TENK_LAMBDA {
-                while (groups.fit() && count - k >= groups.objects && groups.solve(k))
-                    k += groups.objects;
-            };
-            if constexpr (luSolveTurns(m) > 1)
-                all(inTurns);
-            all(alone);
+            k = inTurns.readingAhead(k);
+            k = alone.inSequence(k);
             if (k == count)
                 break;
         }

@@ -599,6 +599,28 @@ TYPED_TEST(LUBackSubst, ARowOutOfRangeIsReadWhenItsObjectIsReached)
     EXPECT_TRUE(same(results(), std::vector<T>{1, 2, 1, 3, 5, -9, 4, 1, -4, 2, 6, 16}));
 }
 
+TYPED_TEST(LUBackSubst, ARowOutOfRangeOfOrder4IsReadWhenItsObjectIsReached)
+{
+    // As above: row 4 of the identity is the solution (1, 2, 1, 4) of object 0, for object 1 the last row of
+    // the factor. b[4] is 39, the first element of object 2: y[3] = 39 - (3 + 10 + 2) and x[3] = 24 / 4.
+    using T = TypeParam;
+    constexpr std::uint32_t row = 4 * sizeof(T);
+    std::vector<T> memory = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
+    memory.resize(16 + 8 * 4, 7);
+    std::uint32_t rows[32];
+    for (std::size_t e = 0; e < 32; ++e)
+        rows[e] = e == 7 ? 4U : static_cast<std::uint32_t>(e % 4);
+    std::vector<T> b = {1, 2, 1, 4, 3, 5, 2, 9, 39};
+    while (b.size() < 32)
+        b.push_back(static_cast<T>(b.size()));
+    if constexpr (sizeof(T) == 4)
+        tenkLUBackSubst_mava_32f_4x4(&memory[0], 0, row, rows, &b[0], row, &memory[16], row, 8);
+    else
+        tenkLUBackSubst_mava_64f_4x4(&memory[0], 0, row, rows, &b[0], row, &memory[16], row, 8);
+    b[7] = 6;
+    EXPECT_TRUE(same(std::vector<T>(memory.begin() + 16, memory.end()), b));
+}
+
 TYPED_TEST(LUBackSubst, ResultsThatShareMemoryAreWrittenOneAfterTheOther)
 {
     // With the identity x = b. Each result begins at the second element of the one before, by a step and by
@@ -630,6 +652,88 @@ TYPED_TEST(LUBackSubst, ResultsThatShareMemoryAreWrittenOneAfterTheOther)
             : member == 1 ? tenkLUBackSubst_mava_64f_3x3(identity, 0, row, rows, b, row, x, element, 8)
                           : tenkLUBackSubst_mava_64f_3x3_L(factors, 0, row, rows, src2, 0, dst, 0, 8);
         EXPECT_TRUE(same(std::vector<T>(x, x + 10), expected)) << member;
+    }
+}
+
+TYPED_TEST(LUBackSubst, AResultIsReadByALaterObject)
+{
+    // With the identity x = b. The result of an object is the right-hand side of the one that comes some
+    // objects later, so that the first right-hand sides come again and again.
+    using T = TypeParam;
+    constexpr std::size_t count = 24;
+    constexpr std::uint32_t row = 3 * sizeof(T);
+    const T identity[9] = {1, 0, 0, 0, 1, 0, 0, 0, 1};
+    std::uint32_t rows[3 * count];
+    for (std::size_t e = 0; e < 3 * count; ++e)
+        rows[e] = static_cast<std::uint32_t>(e % 3);
+    for (std::size_t later : {1, 2, 3, 5, 8, 9, 15, 16})
+        for (int member = 0; member < 4; ++member) {
+            std::vector<T> memory(3 * (count + later), 7);
+            for (std::size_t e = 0; e < 3 * later; ++e)
+                memory[e] = static_cast<T>(e + 1);
+            T* const x = &memory[3 * later];
+            const std::vector<const T*> factors(count, identity);
+            std::vector<const T*> src2;
+            std::vector<T*> dst;
+            for (std::size_t k = 0; k < count; ++k) {
+                src2.push_back(&memory[3 * k]);
+                dst.push_back(x + 3 * k);
+            }
+            if constexpr (sizeof(T) == 4)
+                member == 0
+                    ? tenkLUBackSubst_mva_32f_3x3(identity, 0, row, rows, &memory[0], row, x, row, count)
+                : member == 1
+                    ? tenkLUBackSubst_mava_32f_3x3(identity, 0, row, rows, &memory[0], row, x, row, count)
+                : member == 2
+                    ? tenkLUBackSubst_mva_32f_3x3_L(identity, 0, row, rows, &src2[0], 0, &dst[0], 0, count)
+                    : tenkLUBackSubst_mava_32f_3x3_L(&factors[0], 0, row, rows, &src2[0], 0, &dst[0], 0,
+                                                     count);
+            else
+                member == 0
+                    ? tenkLUBackSubst_mva_64f_3x3(identity, 0, row, rows, &memory[0], row, x, row, count)
+                : member == 1
+                    ? tenkLUBackSubst_mava_64f_3x3(identity, 0, row, rows, &memory[0], row, x, row, count)
+                    : tenkLUBackSubst_mava_64f_3x3_L(&factors[0], 0, row, rows, &src2[0], 0, &dst[0], 0,
+                                                     count);
+            for (std::size_t e = 0; e < memory.size(); ++e)
+                EXPECT_EQ(memory[e], static_cast<T>(e % (3 * later) + 1))
+                    << later << " " << member << " " << e;
+        }
+}
+
+TYPED_TEST(LUBackSubst, TheOneFactorIsReadAgainAfterAResultHasChangedIt)
+{
+    // The result of object 0 is row 0 of the identity: y = (2, 3, 0) and x = ((2 - (3 x 3 + 0)) / 2, 3, 0)
+    // there. The others are solved with that row: x[0] = (3 k + 7 - 3 k) / (-7/2).
+    using T = TypeParam;
+    constexpr std::size_t count = 20;
+    constexpr std::uint32_t row = 3 * sizeof(T);
+    const std::uint32_t rows[3] = {0, 1, 2};
+    std::vector<T> b = {2, 3, 0};
+    for (std::size_t k = 1; k < count; ++k)
+        for (T element : {static_cast<T>(3 * k + 7), static_cast<T>(k), T{1}})
+            b.push_back(element);
+    for (bool list : {false, true}) {
+        std::vector<T> memory(9 * count);
+        memory[0] = memory[4] = memory[8] = 1;
+        std::vector<const T*> src2;
+        std::vector<T*> dst;
+        for (std::size_t k = 0; k < count; ++k) {
+            src2.push_back(&b[3 * k]);
+            dst.push_back(&memory[9 * k]);
+        }
+        if constexpr (sizeof(T) == 4)
+            list ? tenkLUBackSubst_mva_32f_3x3_L(&memory[0], 0, row, rows, &src2[0], 0, &dst[0], 0, count)
+                 : tenkLUBackSubst_mva_32f_3x3(&memory[0], 0, row, rows, &b[0], row, &memory[0], 3 * row,
+                                               count);
+        else if (!list)
+            tenkLUBackSubst_mva_64f_3x3(&memory[0], 0, row, rows, &b[0], row, &memory[0], 3 * row, count);
+        else
+            continue; // which reads its factor with another step
+        EXPECT_TRUE(same({memory[0], memory[1], memory[2]}, std::vector<T>{T(-3.5), 3, 0})) << list;
+        for (std::size_t k = 1; k < count; ++k)
+            EXPECT_TRUE(same({dst[k][0], dst[k][1], dst[k][2]}, std::vector<T>{-2, static_cast<T>(k), 1}))
+                << list << k;
     }
 }
 

@@ -374,6 +374,21 @@ TYPED_TEST(LUDecomp, TheLastPivotMayBeTheFloorAndNotSmaller)
     });
 }
 
+TYPED_TEST(LUDecomp, AnEarlierPivotOfAnyObjectMayBeTheFloorAndNotSmaller)
+{
+    const TypeParam floor = 0x1p-23F;
+    eachCall<TypeParam>([&](auto& call, bool) {
+        for (std::size_t k = 0; call.n > 1 && k < call.count; ++k)
+            for (TypeParam pivot : {floor, std::nextafter(floor, TypeParam{0})}) {
+                for (std::size_t other = 0; other < call.count; ++other)
+                    for (std::size_t i = 0; i < call.n; ++i)
+                        for (std::size_t j = 0; j < call.n; ++j)
+                            call.src.set(other, i, j, i != j ? 0 : other == k && i + 2 == call.n ? pivot : 1);
+                ASSERT_EQ(call.run(), pivot >= floor ? tenkOk : tenkSingularError) << call.name << k << pivot;
+            }
+    });
+}
+
 TEST(LUDecompEdges, TheDiagonalOf1And1e8thIsSingularInBothTypes)
 {
     const double a[4] = {1, 0, 0, 1e-8};

@@ -343,6 +343,24 @@ TYPED_TEST(QRDecomp, TheFloorIsOnTheSumOfSquaresInBothTypes)
     });
 }
 
+TYPED_TEST(QRDecomp, TheFloorIsThatOfAnyObject)
+{
+    // The identity, but for two elements in the first column of one object.
+    const TypeParam x = 0x1p-12F; // twice its square is 2^-23
+    eachCall<TypeParam>([&](auto& call) {
+        for (std::size_t k = 0; call.w == call.h && call.w > 1 && k < call.count; ++k)
+            for (TypeParam second : {x, x * TypeParam(1 - 0x1p-20)}) {
+                for (std::size_t other = 0; other < call.count; ++other)
+                    for (std::size_t i = 0; i < call.h; ++i)
+                        for (std::size_t j = 0; j < call.w; ++j)
+                            call.src.set(other, i, j, i == j);
+                call.src.set(k, 0, 0, x);
+                call.src.set(k, 1, 0, second);
+                ASSERT_EQ(call.run(), second == x ? tenkOk : tenkSingularError) << call.name << k;
+            }
+    });
+}
+
 TYPED_TEST(QRDecomp, TheIdentityGivesMinusOnesButForTheLast)
 {
     eachCall<TypeParam>([&](auto& call) {
