@@ -4,6 +4,7 @@
 // whichever way the operands overlap. It goes in vectors where nobody can tell.
 #pragma once
 
+#include "frame/bytes.h"
 #include "frame/checks.h"
 #include "frame/long_vector.h"
 #include "frame/packed.h"
@@ -87,7 +88,7 @@ TENK_INLINE bool startsInsideNone(const Destination<m>& dst, const S& src, std::
         constexpr std::uint64_t most = std::uint64_t{1} << 30;
         const std::uint64_t all = static_cast<std::uint64_t>(dst.stride0) * (count - 1) + bytes;
         return dst.stride0 >= 0 && count != 0 && all < most &&
-               areApart(dst.p, static_cast<std::size_t>(all), src.p, bytes);
+               apart(Bytes{dst.p, static_cast<std::size_t>(all)}, Bytes{src.p, bytes});
     } else {
         return dst.stride0 == src.stride0 && !startsInside(dst.p, src.p, bytes);
     }

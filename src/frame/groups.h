@@ -4,21 +4,10 @@
 // finishing one object after the other: not by the results, not by the memory that is read or written.
 #pragma once
 
+#include "frame/bytes.h"
 #include "frame/side_by_side.h"
 
 namespace tenk {
-
-struct Bytes
-{
-    Address first, length;
-
-    TENK_INLINE Address last() const { return first + length - 1; }
-};
-
-TENK_INLINE bool apart(const Bytes& a, const Bytes& b)
-{
-    return b.first - a.first - a.length <= 0 - a.length - b.length;
-}
 
 // The bytes of an object of n adjacent elements in each of some rows.
 template <typename T>

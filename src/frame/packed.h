@@ -30,10 +30,4 @@ TENK_INLINE O packed(O o)
     return o;
 }
 
-// The runs of so many bytes at a and at b have no byte in common.
-TENK_INLINE bool areApart(Address a, std::size_t aBytes, Address b, std::size_t bBytes)
-{
-    return b - a + (bBytes - 1) >= aBytes + (bBytes - 1);
-}
-
 } // namespace tenk

@@ -120,15 +120,18 @@ TENK_INLINE Vector<double> magnitude(Vector<double> v)
 // Elements that are adjacent in every object: n of them to n vectors and back
 // ---------------------------------------------------------------------------------------------------------------
 
-// One element of each object.
-TENK_INLINE Vector<float> gather(const Addresses<float>& from)
+// One element of each object, loaded to where it stays: the compiler would take it by way of a general
+// register or the stack.
+TENK_INLINE Vector<float> elementOfEach(const Addresses<float>& from)
 {
-    return Vector<float>{load<float>(from.of[0]), load<float>(from.of[1]), load<float>(from.of[2]),
-                         load<float>(from.of[3])};
+    const auto load = [&](std::size_t g)
+                          TENK_LAMBDA { return _mm_load_ss(reinterpret_cast<const float*>(from.of[g])); };
+    return _mm_movelh_ps(_mm_unpacklo_ps(load(0), load(1)), _mm_unpacklo_ps(load(2), load(3)));
 }
-TENK_INLINE Vector<double> gather(const Addresses<double>& from)
+TENK_INLINE Vector<double> elementOfEach(const Addresses<double>& from)
 {
-    return Vector<double>{load<double>(from.of[0]), load<double>(from.of[1])};
+    const auto first = _mm_load_sd(reinterpret_cast<const double*>(from.of[0]));
+    return _mm_loadh_pd(first, reinterpret_cast<const double*>(from.of[1]));
 }
 
 // Turns a square of four vectors.
@@ -161,7 +164,7 @@ TENK_INLINE void loadSideBySide(const Addresses<float>& from, Vector<float>* to)
         to[1] = shuffle<1, 3, 5, 7>(first, second);
         loadSideBySide<n - 2>(behind<float>(from, 8), to + 2);
     } else if constexpr (n == 1) {
-        to[0] = gather(from);
+        to[0] = elementOfEach(from);
     }
 }
 template <unsigned n>
@@ -174,7 +177,7 @@ TENK_INLINE void loadSideBySide(const Addresses<double>& from, Vector<double>* t
         to[1] = shuffle<1, 3>(first, second);
         loadSideBySide<n - 2>(behind<double>(from, 16), to + 2);
     } else if constexpr (n == 1) {
-        to[0] = gather(from);
+        to[0] = elementOfEach(from);
     }
 }
 

@@ -124,20 +124,6 @@ TENK_INLINE void luSolve(const Vector<T> (&factor)[factors][n][n], Vector<T> (&x
     });
 }
 
-// One element of each object, loaded to where it stays: the compiler would take it by way of a general
-// register or the stack.
-TENK_INLINE Vector<float> elementOfEach(const Addresses<float>& from)
-{
-    const auto load = [&](std::size_t g)
-                          TENK_LAMBDA { return _mm_load_ss(reinterpret_cast<const float*>(from.of[g])); };
-    return _mm_movelh_ps(_mm_unpacklo_ps(load(0), load(1)), _mm_unpacklo_ps(load(2), load(3)));
-}
-TENK_INLINE Vector<double> elementOfEach(const Addresses<double>& from)
-{
-    const auto first = _mm_load_sd(reinterpret_cast<const double*>(from.of[0]));
-    return _mm_loadh_pd(first, reinterpret_cast<const double*>(from.of[1]));
-}
-
 // The batch so many groups at a time.
 template <Member m, unsigned turns>
 struct LUSolveGroups

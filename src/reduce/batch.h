@@ -1,6 +1,7 @@
 // Batches of scalar results: results lie side by side whatever the layout of the sources.
 #pragma once
 
+#include "frame/bytes.h"
 #include "frame/checks.h"
 #include "frame/packed.h"
 #include "frame/row.h"
@@ -188,23 +189,24 @@ struct Apart
         possible =
             o.stride1 >= 0 && o.stride0 >= 0 && count != 0 && object < most && count * sizeof(T) < most;
         if constexpr (O::list) {
-            possible = possible && areApart(results, count * sizeof(T), o.p, count * sizeof(Address));
+            possible =
+                possible && apart(Bytes{results, count * sizeof(T)}, Bytes{o.p, count * sizeof(Address)});
         } else {
             const std::uint64_t all = object + static_cast<std::uint64_t>(o.stride0) * (count - 1);
             possible = possible && all < most &&
-                       areApart(results, count * sizeof(T), o.p, static_cast<std::size_t>(all));
+                       apart(Bytes{results, count * sizeof(T)}, Bytes{o.p, static_cast<std::size_t>(all)});
         }
     }
 
     TENK_INLINE bool operator()(std::size_t k) const
     {
-        bool apart = true;
+        bool all = true;
         if constexpr (O::list)
             each<step - 1>([&](auto i) TENK_LAMBDA { // the first object is read before any result is written
-                apart = apart && areApart(results + k * sizeof(T), step * sizeof(T),
-                                          source.object(k + i + 1, n).start, bytes);
+                all = all && apart(Bytes{results + k * sizeof(T), step * sizeof(T)},
+                                   Bytes{source.object(k + i + 1, n).start, bytes});
             });
-        return apart;
+        return all;
     }
 };
 
@@ -237,12 +239,12 @@ struct OnOneSide
         possible = count != 0 && end > results && results > bytes;
         if constexpr (O::list) {
             possible = possible && (sizeof(Address) == 8 || o.p % 16 == 0) &&
-                       areApart(results, end - results, o.p, count * sizeof(Address));
+                       apart(Bytes{results, end - results}, Bytes{o.p, count * sizeof(Address)});
             const bool behind = possible && o.entry(0) >= end;
             toFirst = 0 - (behind ? end : 1);
             length = (behind ? 0 - end : results) - bytes;
         } else {
-            possible = possible && areApart(results, end - results, o.p, bytes);
+            possible = possible && apart(Bytes{results, end - results}, Bytes{o.p, bytes});
         }
     }
     TENK_INLINE bool mayRead(Address object) const { return !O::list || object + toFirst < length; }
