@@ -120,17 +120,19 @@ TENK_INLINE Vector<double> magnitude(Vector<double> v)
 // Elements that are adjacent in every object: n of them to n vectors and back
 // ---------------------------------------------------------------------------------------------------------------
 
-// One element of each object, loaded to where it stays: the compiler would take it by way of a general
+// One element of each object, loaded to where it stays: the compiler would take a copy by way of a general
 // register or the stack.
 TENK_INLINE Vector<float> elementOfEach(const Addresses<float>& from)
 {
+    typedef float Anywhere __attribute__((may_alias, aligned(1)));
     const auto load = [&](std::size_t g)
-                          TENK_LAMBDA { return _mm_load_ss(reinterpret_cast<const float*>(from.of[g])); };
+                          TENK_LAMBDA { return _mm_set_ss(*reinterpret_cast<const Anywhere*>(from.of[g])); };
     return _mm_movelh_ps(_mm_unpacklo_ps(load(0), load(1)), _mm_unpacklo_ps(load(2), load(3)));
 }
 TENK_INLINE Vector<double> elementOfEach(const Addresses<double>& from)
 {
-    const auto first = _mm_load_sd(reinterpret_cast<const double*>(from.of[0]));
+    typedef double Anywhere __attribute__((may_alias, aligned(1)));
+    const auto first = _mm_set_sd(*reinterpret_cast<const Anywhere*>(from.of[0]));
     return _mm_loadh_pd(first, reinterpret_cast<const double*>(from.of[1]));
 }
 

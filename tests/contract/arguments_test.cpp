@@ -19,7 +19,8 @@ using tenk::tools::Parameter;
 
 // One call with memory of its own behind each pointer. Sources hold objects with 2 on the diagonal, which
 // every family can do something with, destinations hold nothing but `untouched`; both have rows of `row`
-// elements and objects of `object`. A table or list has pointers into that memory.
+// elements and objects of `object`. A table or list has pointers into that memory. In front of it is a row
+// that some members read.
 template <typename T>
 class Call
 {
@@ -73,7 +74,7 @@ private:
     {
         for (std::size_t p = 0; p < blocks_.size(); ++p)
             for (std::size_t e = first; f_.parameters[p].name == "dst" && e < end; ++e)
-                if (blocks_[p][e] != untouched)
+                if (blocks_[p][row + e] != untouched)
                     return true;
         return false;
     }
@@ -87,15 +88,15 @@ private:
         if (isPointer(p)) {
             a.kind = Argument::Kind::pointer;
             std::vector<T>& block = blocks_[p];
-            block.assign(pointers * object, parameter.name == "dst" ? untouched : T(0));
+            block.assign(row + pointers * object, parameter.name == "dst" ? untouched : T(0));
             if (parameter.word.starts_with("src"))
                 for (std::size_t k = 0; k < 3; ++k)
                     for (std::size_t i = 0; i < 6; ++i)
-                        block[k * object + i * row + i] = T(2);
+                        block[row + k * object + i * row + i] = T(2);
             for (std::size_t e = 0; e < pointers; ++e)
-                entries_[p].push_back(&block[e * object]);
+                entries_[p].push_back(&block[row + e * object]);
             a.bits = isTableOrList(p) ? reinterpret_cast<std::uintptr_t>(entries_[p].data())
-                                      : reinterpret_cast<std::uintptr_t>(block.data());
+                                      : reinterpret_cast<std::uintptr_t>(block.data() + row);
         } else if (type(p) != "uint32_t") {
             a.kind = sizeof(T) == 4 ? Argument::Kind::value32f : Argument::Kind::value64f;
             const T value = T(0.5);
@@ -223,7 +224,7 @@ TEST(Arguments, ANullEntryAtTheEndOfATableComesBeforeACountOfZero)
 TEST(Arguments, ANullEntryOfAListComesWhenItsObjectIsReached)
 {
     // Moves but transposition and some products test no entry; some sums look at others as well, some norms
-    // at several at a time. at a time.
+    // at several at a time.
     constexpr const char* exceptions =
         "tenk(Copy|Extract|LoadIdentity)_.*|tenkMul_maT?mT?_32f_3x3_LS2|tenk(Add|Sub)_mamT?_32f_3x3_L|"
         "tenkFrobNorm_ma_..f_(3x3|4x4)_L";
