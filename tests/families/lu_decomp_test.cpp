@@ -415,6 +415,23 @@ TYPED_TEST(LUDecomp, OfEqualMagnitudesTheFirstInRowIndexIsTaken)
     });
 }
 
+// Side by side on one page: the same matrix in objects of even number, and in odd ones a matrix whose row 0
+// wins over row 1 at position 1, so that rows are exchanged there.
+TEST(LUDecompEdges, OfEqualMagnitudesTheFirstIsTakenBesideObjectsThatExchange)
+{
+    alignas(4096) static float a[1024], d[1024];
+    const float matrix[2][9] = {{1, 4, 1, -1, -4, 3, 2, 0, 8}, {1, 4, 1, -1, -1, 3, 2, 0, 8}};
+    const std::uint32_t rows[2][3] = {{2, 1, 0}, {2, 0, 1}};
+    for (std::size_t e = 0; e < 1024; ++e) {
+        a[e] = matrix[e / 9 % 2][e % 9];
+        d[e] = 1;
+    }
+    std::uint32_t rowIndex[24];
+    ASSERT_EQ(tenkLUDecomp_ma_32f_3x3(a, 36, 12, rowIndex, d, 36, 12, 8), tenkOk);
+    for (std::size_t e = 0; e < 24; ++e)
+        EXPECT_EQ(rowIndex[e], rows[e / 3 % 2][e % 3]) << e;
+}
+
 TYPED_TEST(LUDecomp, AZeroFirstColumnFailsAtOnceWithThePlainCopy)
 {
     std::mt19937 random(4);
