@@ -12,6 +12,7 @@
 #include <vector>
 #include <xmmintrin.h>
 
+#include "results.h"
 #include "support/objects.h"
 
 namespace {
@@ -394,12 +395,7 @@ unsigned resultsBeforeNull(unsigned size, const std::string& layout, unsigned nu
     EXPECT_EQ(
         callByName(nameOf<T>(true, size, layout), {a.arguments(), sizes, {pointer(dst.data()), word(count)}}),
         tenkNullPointerError);
-    unsigned n = 0;
-    while (n < count && dst[n] > 0)
-        ++n;
-    for (unsigned k = n; k < count; ++k)
-        EXPECT_EQ(dst[k], T(-1));
-    return n;
+    return resultsInFront(dst);
 }
 
 // The same of a list without a shift, of matrices without gaps.
@@ -414,12 +410,7 @@ unsigned resultsBeforeNullWithoutGaps(unsigned size, unsigned nullAt, unsigned c
     EXPECT_EQ(callByName(nameOf<T>(true, size, "_L"),
                          {{pointer(entries.data()), word(0), word(row)}, {pointer(dst.data()), word(count)}}),
               tenkNullPointerError);
-    unsigned n = 0;
-    while (n < count && dst[n] > 0)
-        ++n;
-    for (unsigned k = n; k < count; ++k)
-        EXPECT_EQ(dst[k], T(-1));
-    return n;
+    return resultsInFront(dst);
 }
 
 TEST(FrobNorm, OfAListWithoutGapsWritesWhatIsInFrontOfANullEntry)

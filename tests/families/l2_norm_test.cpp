@@ -11,6 +11,7 @@
 #include <vector>
 #include <xmmintrin.h>
 
+#include "results.h"
 #include "support/objects.h"
 
 namespace {
@@ -323,12 +324,7 @@ unsigned resultsBeforeNull(unsigned size, const std::string& layout, unsigned nu
     sizes.push_back(word(count));
     EXPECT_EQ(callByName(nameOf<T>(true, size, layout), {a.arguments(), {pointer(dst.data())}, sizes}),
               tenkNullPointerError);
-    unsigned n = 0;
-    while (n < count && dst[n] > 0)
-        ++n;
-    for (unsigned k = n; k < count; ++k)
-        EXPECT_EQ(dst[k], T(-1));
-    return n;
+    return resultsInFront(dst);
 }
 
 TEST(L2Norm, OfAListOf32fOfFixedSizeTestsFourEntriesAtATime)
