@@ -8,6 +8,8 @@
 
 namespace tenk {
 
+inline constexpr bool manyRegisters = sizeof(Address) == 8;
+
 template <typename T>
 TENK_INLINE Address resultAddress(const T* dst, std::size_t k)
 {
@@ -117,15 +119,18 @@ TENK_INLINE std::size_t inPipeline(T* dst, std::size_t count, Start start, Finis
     Vector<T> part;
     if (full == 0 || !start(std::size_t{0}, part))
         return 0;
+    Address to = resultAddress(dst, 0);
     std::size_t k = step;
     for (; k != full; k += step) {
+        asm("" : "+r"(to)); // counted on its own: the compiler would read dst from memory in each step
         Vector<T> next;
         if (!start(k, next))
             break;
-        store<Vector<T>>(resultAddress(dst, k - step), finish(part));
+        store<Vector<T>>(to, finish(part));
+        to += sizeof part;
         part = next;
     }
-    store<Vector<T>>(resultAddress(dst, k - step), finish(part));
+    store<Vector<T>>(to, finish(part));
     return k;
 }
 
@@ -228,11 +233,11 @@ struct OnOneSide
 {
     using T = typename O::Value;
 
-    const O& source;
+    Address list;
     bool possible;
     Address toFirst, length; // of the addresses that objects may have
 
-    TENK_INLINE OnOneSide(const O& o, const T* dst, std::size_t count) : source(o)
+    TENK_INLINE OnOneSide(const O& o, const T* dst, std::size_t count) : list(o.p)
     {
         constexpr std::size_t bytes = n * sizeof(T);
         const Address results = resultAddress(dst, 0), end = resultAddress(dst, count);
@@ -257,14 +262,18 @@ struct OnOneSide
         const auto inAll = [](Address a) TENK_LAMBDA { return _mm_set1_epi32(static_cast<std::int32_t>(a)); };
         if constexpr (!O::list)
             return inAll(~Address{0});
-        const auto entries = _mm_load_si128(reinterpret_cast<const __m128i*>(source.p + k * sizeof(Address)));
+        const auto entries = _mm_load_si128(reinterpret_cast<const __m128i*>(list + k * sizeof(Address)));
         constexpr Address sign = 0x80000000;
         return _mm_cmplt_epi32(_mm_add_epi32(entries, inAll(toFirst + sign)), inAll(length - sign));
     }
 };
+TENK_INLINE bool allOf(__m128i a)
+{
+    return _mm_movemask_epi8(a) == 0xFFFF;
+}
 TENK_INLINE bool allOf(__m128i a, __m128i b)
 {
-    return _mm_movemask_epi8(_mm_and_si128(a, b)) == 0xFFFF;
+    return allOf(_mm_and_si128(a, b));
 }
 
 } // namespace tenk

@@ -22,8 +22,6 @@ consteval bool addsPairs(Member m)
     return m == "tenkDotProduct_vav_32f_4x1" || m == "tenkDotProduct_vav_32f_4x1_L";
 }
 
-inline constexpr bool manyRegisters = sizeof(Address) == 8;
-
 // How the objects of a batch are taken. Those of some members are read a step at a time, and their list
 // entries tested, before the first result of the step is written; in 64f that is so in Standard layout alone.
 // All others go object by object, as far as can be told; in lists, that is found out where nothing is added

@@ -125,8 +125,10 @@ TENK_INLINE Vector<T> sumOfVectors(const View& view)
         return v * v;
     } else {
         constexpr unsigned left = vectors / 2;
-        return sumOfVectors<T, n, first, left, dense>(view) +
-               sumOfVectors<T, n, first + left, vectors - left, dense>(view);
+        const auto larger = sumOfVectors<T, n, first + left, vectors - left, dense>(view);
+        auto sum = sumOfVectors<T, n, first, left, dense>(view) + larger;
+        asm volatile("" : "+x"(sum));
+        return sum;
     }
 }
 template <typename T, unsigned n, bool dense, typename View>
@@ -152,44 +154,63 @@ TENK_INLINE T sumOfOne(const View& view)
     return sum + last * last;
 }
 
-// The two parts of that sum of one matrix.
-template <typename T, unsigned n, bool dense>
-struct PartialSums
+// May everything be read?
+struct Always
 {
-    Vector<T> byLanes;
-    T last; // of an odd order: the element that belongs to no vector
-
-    template <typename View>
-    TENK_INLINE static PartialSums of(const View& view)
-    {
-        PartialSums s;
-        s.byLanes = sumByLanes<T, n, dense>(view);
-        if constexpr (n % 2 != 0)
-            s.last = load<T>(view.at(n - 1, n - 1));
-        return s;
-    }
+    TENK_INLINE bool operator()(std::size_t) const { return true; }
 };
 
-// The same for as many matrices as a vector has lanes.
-template <typename T, unsigned n, bool dense>
-TENK_INLINE Vector<T> sumsOfStep(const PartialSums<T, n, dense> (&s)[lanes<T>])
+// The last element of each of two matrices, as lanes 1 and 3 in 32f: it is loaded with the one in front of
+// it.
+template <typename T>
+TENK_INLINE Vector<T> lastOfTwo(Address a, Address b)
 {
-    Vector<T> sums, last{};
+    if constexpr (sizeof(T) == 4)
+        return loadHalves(a - sizeof(T), b - sizeof(T));
+    else
+        return Vector<T>{load<T>(a), load<T>(b)};
+}
+
+// The same sums of as many matrices as a vector has lanes, if all of them may be read. They are worked out
+// one after the other: the compiler would load them all at once, and has no registers for that.
+template <typename T, unsigned n, bool dense, typename View, typename MayRead>
+TENK_INLINE bool sumsOfStep(const View& view, const MayRead& mayRead, Vector<T>& sums)
+{
+    const auto workedOut = [](Vector<T>& v) TENK_LAMBDA { asm volatile("" : "+x"(v)); };
+    const auto one = [&](std::size_t i, Vector<T>& s) TENK_LAMBDA {
+        if (!mayRead(i))
+            return false;
+        s = sumByLanes<T, n, dense>(view(i));
+        workedOut(s);
+        return true;
+    };
+    const auto two = [&](std::size_t i, Vector<T>& s, Vector<T>& last) TENK_LAMBDA {
+        Vector<T> a, b;
+        if (!one(i, a) || !one(i + 1, b))
+            return false;
+        if constexpr (n % 2 != 0)
+            last = lastOfTwo<T>(view(i).at(n - 1, n - 1), view(i + 1).at(n - 1, n - 1));
+        if constexpr (lanes<T> == 4)
+            s = lowHalves(a, b) + highHalves(a, b);
+        else
+            s = shuffle<0, 2>(a, b) + shuffle<1, 3>(a, b);
+        workedOut(s);
+        return true;
+    };
+    Vector<T> last;
+    if (!two(0, sums, last))
+        return false;
     if constexpr (lanes<T> == 4) {
-        const auto evenAndOdd = [](Vector<T> a, Vector<T> b)
-                                    TENK_LAMBDA { return lowHalves(a, b) + highHalves(a, b); };
-        sums = sumNeighbours(evenAndOdd(s[0].byLanes, s[1].byLanes), evenAndOdd(s[2].byLanes, s[3].byLanes));
+        Vector<T> others, lastOfOthers;
+        if (!two(2, others, lastOfOthers))
+            return false;
+        sums = sumNeighbours(sums, others);
         if constexpr (n % 2 != 0)
-            last = Vector<T>{s[0].last, s[1].last, s[2].last, s[3].last};
-    } else {
-        const auto a = s[0].byLanes, b = s[1].byLanes;
-        sums = shuffle<0, 2>(a, b) + shuffle<1, 3>(a, b);
-        if constexpr (n % 2 != 0)
-            last = Vector<T>{s[0].last, s[1].last};
+            last = shuffle<1, 3, 5, 7>(last, lastOfOthers);
     }
-    if constexpr (n % 2 == 0)
-        return sums;
-    return sums + last * last;
+    if constexpr (n % 2 != 0)
+        sums = sums + last * last;
+    return true;
 }
 
 // ---------------------------------------------------------------------------------------------------------------
@@ -212,32 +233,34 @@ TENK_INLINE std::size_t normsInPipeline(const Source<m>& src, Element<m>* dst, s
                                         const Apart& apart)
 {
     using T = Element<m>;
-    using Partial = PartialSums<T, m.size, true>;
     constexpr BatchSteps steps = stepsOf(m);
     constexpr bool list = m.layout == Layout::List;
     const OnOneSide<m.size * m.size, Source<m>> side(src, dst, count);
     if (!(list ? side.possible : apart.possible))
         return 0;
-    const auto sums = [&](std::size_t k, Vector<T>& part) TENK_LAMBDA {
+    const auto sums = [=](std::size_t k, Vector<T>& part) TENK_LAMBDA {
         const auto view = [&](std::size_t i) TENK_LAMBDA { return src.object(k + i, m.size); };
-        bool read = true;
-        if constexpr (list && steps.together)
-            each<steps.objects>([&](auto i) TENK_LAMBDA { read = read && side.mayRead(view(i).start); });
-        Partial s[steps.objects];
-        each<steps.objects>([&](auto i) TENK_LAMBDA {
-            if constexpr (list && !steps.together)
-                read = read && side.mayRead(view(i).start);
-            if (read) {
-                s[i] = Partial::of(view(i));
-                if constexpr (list)
-                    asm volatile("" : "+x"(s[i].byLanes)); // see workedOut in dot_product.h
-            }
-        });
-        if (read)
-            part = sumsOfStep(s);
-        return read;
+        if constexpr (list && !manyRegisters && m.type == Type::f32) {
+            return allOf(side.mayReadFour(k)) && sumsOfStep<T, m.size, true>(view, Always{}, part);
+        } else {
+            bool read = true;
+            if constexpr (list && steps.together)
+                each<steps.objects>([&](auto i) TENK_LAMBDA { read = read && side.mayRead(view(i).start); });
+            const auto mayRead = [&](std::size_t i)
+                                     TENK_LAMBDA { return steps.together || side.mayRead(view(i).start); };
+            return read && sumsOfStep<T, m.size, true>(view, mayRead, part);
+        }
     };
-    return inPipeline<steps.objects>(dst, count, sums, [](auto s) TENK_LAMBDA { return rootOf<m>(s); });
+    Vector<float> half = broadcast(0.5f), three = broadcast(3.0f);
+    const auto roots = [&](auto s) TENK_LAMBDA {
+        if constexpr (refinesEstimate(m) && !manyRegisters) {
+            asm volatile("" : "+m"(half), "+m"(three)); // there is no register to spare
+            return refinedRoot(s, half, three);
+        } else {
+            return rootOf<m>(s);
+        }
+    };
+    return inPipeline<steps.objects>(dst, count, sums, roots);
 }
 
 // dense: rows follow each other without a gap, and nothing is added to list entries.
@@ -255,9 +278,9 @@ TENK_INLINE tenkStatus normsOfRows(const Source<m>& src, Element<m>* dst, std::s
     return inSteps<steps>(
         dst, count, [&](std::size_t k) TENK_LAMBDA { return anyNullObject(k, src); }, apart,
         [&](auto k) TENK_LAMBDA {
-            PartialSums<T, n, dense> s[lanes<T>];
-            each<lanes<T>>([&](auto i) TENK_LAMBDA { s[i] = s[i].of(view(k + i)); });
-            return rootOf<m>(sumsOfStep(s));
+            Vector<T> sums;
+            sumsOfStep<T, n, dense>([&](std::size_t i) TENK_LAMBDA { return view(k + i); }, Always{}, sums);
+            return rootOf<m>(sums);
         },
         [&](std::size_t k) TENK_LAMBDA {
             if constexpr (m.batch())

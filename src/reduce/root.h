@@ -43,10 +43,15 @@ TENK_INLINE Vector<float> like(Vector<float>, float x)
 // root, some few units in the last place off. Nothing guards the ends: the estimate is infinite at 0 and 0 at
 // infinity, and the result of both is a NaN.
 template <typename V>
-TENK_INLINE V refinedRoot(V s)
+TENK_INLINE V refinedRoot(V s, V half, V three)
 {
     const V y = rootEstimate(s);
-    return s * (y * (like(s, 0.5f) * (like(s, 3.0f) - s * (y * y))));
+    return s * (y * (half * (three - s * (y * y))));
+}
+template <typename V>
+TENK_INLINE V refinedRoot(V s)
+{
+    return refinedRoot(s, like(s, 0.5f), like(s, 3.0f));
 }
 
 } // namespace tenk
