@@ -119,18 +119,16 @@ TENK_INLINE std::size_t inPipeline(T* dst, std::size_t count, Start start, Finis
     Vector<T> part;
     if (full == 0 || !start(std::size_t{0}, part))
         return 0;
-    Address to = resultAddress(dst, 0);
+    asm("" : "+r"(dst)); // the compiler would read it from memory in each step
     std::size_t k = step;
     for (; k != full; k += step) {
-        asm("" : "+r"(to)); // counted on its own: the compiler would read dst from memory in each step
         Vector<T> next;
         if (!start(k, next))
             break;
-        store<Vector<T>>(to, finish(part));
-        to += sizeof part;
+        store<Vector<T>>(resultAddress(dst, k - step), finish(part));
         part = next;
     }
-    store<Vector<T>>(to, finish(part));
+    store<Vector<T>>(resultAddress(dst, k - step), finish(part));
     return k;
 }
 

@@ -116,18 +116,27 @@ TENK_INLINE Vector<T> vectorOf(const View& view)
         return lowHalves(pairOf<n, e>(view), pairOf<n, e + 2>(view));
 }
 
-// The sum of the squares of `vectors` vectors from vector `first` on, by lanes, halves before wholes.
+// Takes v as worked out here. The compiler would put sums off until the last vector is read, or read all
+// vectors first, and has no registers for that.
+template <typename V>
+TENK_INLINE void workedOut(const V& v)
+{
+    asm volatile("" : : "x"(v));
+}
+
+// The sum of the squares of `vectors` vectors from vector `first` on, by lanes, halves before wholes. The
+// longer half goes first: then four registers do.
 template <typename T, unsigned n, unsigned first, unsigned vectors, bool dense, typename View>
 TENK_INLINE Vector<T> sumOfVectors(const View& view)
 {
     if constexpr (vectors == 1) {
-        const auto v = vectorOf<T, n, first * lanes<T>, dense>(view);
+        const auto v = inRegister(vectorOf<T, n, first * lanes<T>, dense>(view));
         return v * v;
     } else {
         constexpr unsigned left = vectors / 2;
-        const auto larger = sumOfVectors<T, n, first + left, vectors - left, dense>(view);
-        auto sum = sumOfVectors<T, n, first, left, dense>(view) + larger;
-        asm volatile("" : "+x"(sum));
+        const auto right = sumOfVectors<T, n, first + left, vectors - left, dense>(view);
+        const auto sum = sumOfVectors<T, n, first, left, dense>(view) + right;
+        workedOut(sum);
         return sum;
     }
 }
@@ -171,12 +180,11 @@ TENK_INLINE Vector<T> lastOfTwo(Address a, Address b)
         return Vector<T>{load<T>(a), load<T>(b)};
 }
 
-// The same sums of as many matrices as a vector has lanes, if all of them may be read. They are worked out
-// one after the other: the compiler would load them all at once, and has no registers for that.
+// The same sums of as many matrices as a vector has lanes, one matrix per lane, if all of them may be read.
 template <typename T, unsigned n, bool dense, typename View, typename MayRead>
 TENK_INLINE bool sumsOfStep(const View& view, const MayRead& mayRead, Vector<T>& sums)
 {
-    const auto workedOut = [](Vector<T>& v) TENK_LAMBDA { asm volatile("" : "+x"(v)); };
+    constexpr bool odd = n % 2 != 0;
     const auto one = [&](std::size_t i, Vector<T>& s) TENK_LAMBDA {
         if (!mayRead(i))
             return false;
@@ -188,7 +196,7 @@ TENK_INLINE bool sumsOfStep(const View& view, const MayRead& mayRead, Vector<T>&
         Vector<T> a, b;
         if (!one(i, a) || !one(i + 1, b))
             return false;
-        if constexpr (n % 2 != 0)
+        if constexpr (odd)
             last = lastOfTwo<T>(view(i).at(n - 1, n - 1), view(i + 1).at(n - 1, n - 1));
         if constexpr (lanes<T> == 4)
             s = lowHalves(a, b) + highHalves(a, b);
@@ -205,10 +213,10 @@ TENK_INLINE bool sumsOfStep(const View& view, const MayRead& mayRead, Vector<T>&
         if (!two(2, others, lastOfOthers))
             return false;
         sums = sumNeighbours(sums, others);
-        if constexpr (n % 2 != 0)
+        if constexpr (odd)
             last = shuffle<1, 3, 5, 7>(last, lastOfOthers);
     }
-    if constexpr (n % 2 != 0)
+    if constexpr (odd)
         sums = sums + last * last;
     return true;
 }
@@ -254,7 +262,8 @@ TENK_INLINE std::size_t normsInPipeline(const Source<m>& src, Element<m>* dst, s
     Vector<float> half = broadcast(0.5f), three = broadcast(3.0f);
     const auto roots = [&](auto s) TENK_LAMBDA {
         if constexpr (refinesEstimate(m) && !manyRegisters) {
-            asm volatile("" : "+m"(half), "+m"(three)); // there is no register to spare
+            // Not before the next step is read, and with the constants in memory: registers are few.
+            asm volatile("" : "+x"(s), "+m"(half), "+m"(three));
             return refinedRoot(s, half, three);
         } else {
             return rootOf<m>(s);
