@@ -125,6 +125,7 @@ TENK_INLINE std::size_t inPipeline(T* dst, std::size_t count, Start start, Finis
         Vector<T> next;
         if (!start(k, next))
             break;
+        asm volatile("" : "+x"(part)); // finished behind the start, where the compiler would put it in front
         store<Vector<T>>(resultAddress(dst, k - step), finish(part));
         part = next;
     }

@@ -243,6 +243,8 @@ TENK_INLINE std::size_t normsInPipeline(const Source<m>& src, Element<m>* dst, s
     using T = Element<m>;
     constexpr BatchSteps steps = stepsOf(m);
     constexpr bool list = m.layout == Layout::List;
+    if (count < steps.objects)
+        return 0;
     const OnOneSide<m.size * m.size, Source<m>> side(src, dst, count);
     if (!(list ? side.possible : apart.possible))
         return 0;
@@ -262,8 +264,7 @@ TENK_INLINE std::size_t normsInPipeline(const Source<m>& src, Element<m>* dst, s
     Vector<float> half = broadcast(0.5f), three = broadcast(3.0f);
     const auto roots = [&](auto s) TENK_LAMBDA {
         if constexpr (refinesEstimate(m) && !manyRegisters) {
-            // Not before the next step is read, and with the constants in memory: registers are few.
-            asm volatile("" : "+x"(s), "+m"(half), "+m"(three));
+            asm volatile("" : "+m"(half), "+m"(three)); // there is no register to spare
             return refinedRoot(s, half, three);
         } else {
             return rootOf<m>(s);
