@@ -240,39 +240,38 @@ struct OnOneSide
     {
         constexpr std::size_t bytes = n * sizeof(T);
         const Address results = resultAddress(dst, 0), end = resultAddress(dst, count);
-        possible = count != 0 && end > results && results > bytes;
+        possible = count != 0 && end > results;
+        Address room = results; // on that side
         if constexpr (O::list) {
             possible = possible && (sizeof(Address) == 8 || o.p % 16 == 0) &&
                        apart(Bytes{results, end - results}, Bytes{o.p, count * sizeof(Address)});
             const bool behind = possible && o.entry(0) >= end;
             toFirst = 0 - (behind ? end : 1);
-            length = (behind ? 0 - end : results) - bytes;
+            room = behind ? 0 - end : results;
         } else {
             possible = possible && apart(Bytes{results, end - results}, Bytes{o.p, bytes});
         }
+        possible = possible && room > bytes;
+        length = room - bytes;
     }
     TENK_INLINE bool mayRead(Address object) const { return !O::list || object + toFirst < length; }
 
-    // The same of the four objects from k on, as masks, where an address has 32 bits: compared as signed
+    // Which of the four objects from k on may not, as masks, where an address has 32 bits: compared as signed
     // numbers. The entries of a step are read at once, so the list has to be aligned, for them to lie on one
     // page.
-    TENK_INLINE __m128i mayReadFour(std::size_t k) const
+    TENK_INLINE __m128i mayNotRead(std::size_t k) const
     {
         const auto inAll = [](Address a) TENK_LAMBDA { return _mm_set1_epi32(static_cast<std::int32_t>(a)); };
         if constexpr (!O::list)
-            return inAll(~Address{0});
+            return inAll(0);
         const auto entries = _mm_load_si128(reinterpret_cast<const __m128i*>(list + k * sizeof(Address)));
         constexpr Address sign = 0x80000000;
-        return _mm_cmplt_epi32(_mm_add_epi32(entries, inAll(toFirst + sign)), inAll(length - sign));
+        return _mm_cmpgt_epi32(_mm_add_epi32(entries, inAll(toFirst + sign)), inAll(length - 1 - sign));
     }
 };
-TENK_INLINE bool allOf(__m128i a)
+TENK_INLINE bool none(__m128i masks)
 {
-    return _mm_movemask_epi8(a) == 0xFFFF;
-}
-TENK_INLINE bool allOf(__m128i a, __m128i b)
-{
-    return allOf(_mm_and_si128(a, b));
+    return _mm_movemask_epi8(masks) == 0;
 }
 
 } // namespace tenk

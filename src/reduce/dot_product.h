@@ -216,7 +216,7 @@ TENK_INLINE tenkStatus products(Source<m> src1, Source<m, 1> src2, Element<m>* d
                                                side1.possible && !src1.nullEntry(0) ? std::size_t{count} : 0);
         const auto step = [&](std::size_t k, Vector<T>& sums) TENK_LAMBDA {
             if constexpr (!manyRegisters) {
-                if (!allOf(side1.mayReadFour(k), side2.mayReadFour(k)))
+                if (!none(_mm_or_si128(side1.mayNotRead(k), side2.mayNotRead(k))))
                     return false;
                 sums = several(k);
                 return true;

@@ -251,7 +251,7 @@ TENK_INLINE std::size_t normsInPipeline(const Source<m>& src, Element<m>* dst, s
     const auto sums = [=](std::size_t k, Vector<T>& part) TENK_LAMBDA {
         const auto view = [&](std::size_t i) TENK_LAMBDA { return src.object(k + i, m.size); };
         if constexpr (list && !manyRegisters && m.type == Type::f32) {
-            return allOf(side.mayReadFour(k)) && sumsOfStep<T, m.size, true>(view, Always{}, part);
+            return none(side.mayNotRead(k)) && sumsOfStep<T, m.size, true>(view, Always{}, part);
         } else {
             bool read = true;
             if constexpr (list && steps.together)
