@@ -143,7 +143,7 @@ TENK_INLINE tenkStatus inSteps(T* dst, std::size_t count, Null isNull, Apart isA
 {
     const auto step = [&](auto k, Vector<T>& results) TENK_LAMBDA {
         bool null = false;
-        each<steps.objects>([&](auto n) TENK_LAMBDA { null |= isNull(k + n); });
+        each<steps.objects>([&](auto n) TENK_LAMBDA { null = null || isNull(k + n); });
         if (null || !(steps.together || isApart(k)))
             return false;
         results = several(k);

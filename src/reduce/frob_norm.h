@@ -116,14 +116,6 @@ TENK_INLINE Vector<T> vectorOf(const View& view)
         return lowHalves(pairOf<n, e>(view), pairOf<n, e + 2>(view));
 }
 
-// Takes v as worked out here. The compiler would put sums off until the last vector is read, or read all
-// vectors first, and has no registers for that.
-template <typename V>
-TENK_INLINE void workedOut(const V& v)
-{
-    asm volatile("" : : "x"(v));
-}
-
 // The sum of the squares of `vectors` vectors from vector `first` on, by lanes, halves before wholes. The
 // longer half goes first: then four registers do.
 template <typename T, unsigned n, unsigned first, unsigned vectors, bool dense, typename View>

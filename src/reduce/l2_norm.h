@@ -89,22 +89,29 @@ requires(m.type == Type::f32) TENK_INLINE Vector<float> sumsOfStep(X x)
         return sumInOrder<m>([&](auto j) TENK_LAMBDA { return four.element[j]; });
     } else {
         // Elements 2 i and 2 i + 1 of two objects make one vector, so even and odd elements add up side by
-        // side.
-        const auto evenAndOdd = [&](auto first) TENK_LAMBDA {
+        // side. The last of five is loaded with the fourth.
+        const auto evenAndOdd = [&](auto first, Vector<float>& last) TENK_LAMBDA {
+            const auto load = [&](std::size_t bytes)
+                                  TENK_LAMBDA { return loadHalves(x(first) + bytes, x(first + 1) + bytes); };
             const auto squares = [&](std::size_t i) TENK_LAMBDA {
-                const auto v = loadHalves(x(first) + i * 8, x(first + 1) + i * 8);
+                const auto v = load(i * 8);
                 return v * v;
             };
+            const auto s = squares(0) + squares(1);
             if constexpr (m.size == 6)
-                return (squares(0) + squares(1)) + squares(2);
-            else
-                return squares(0) + squares(1);
+                return s + squares(2);
+            last = load(12);
+            workedOut(s);
+            workedOut(last);
+            return s;
         };
-        const auto s = sumNeighbours(evenAndOdd(index<0>), evenAndOdd(index<2>));
+        Vector<float> last[2];
+        const auto low = evenAndOdd(index<0>, last[0]);
+        const auto high = evenAndOdd(index<2>, last[1]);
+        const auto s = sumNeighbours(low, high);
         if constexpr (m.size == 6)
             return s;
-        const auto last = [&](std::size_t n) TENK_LAMBDA { return load<float>(x(n) + 16); };
-        const auto q4 = Vector<float>{last(0), last(1), last(2), last(3)};
+        const auto q4 = shuffle<1, 3, 5, 7>(last[0], last[1]);
         return s + q4 * q4;
     }
 }

@@ -51,6 +51,14 @@ TENK_INLINE T blockSum(Address x, Address y, std::uint32_t length)
     return addProducts(s, x, y, end, length);
 }
 
+// Takes v as worked out here. The compiler would put sums off until the last vector is read, or read all
+// vectors first, and has no registers for that.
+template <typename V>
+TENK_INLINE void workedOut(const V& v)
+{
+    asm volatile("" : : "x"(v));
+}
+
 // ---------------------------------------------------------------------------------------------------------------
 // Four objects: sums across the lanes of each, one object per lane of the result
 // ---------------------------------------------------------------------------------------------------------------

@@ -469,6 +469,26 @@ TEST(DotProduct, OfListsWithoutAShiftWritesWhatIsInFrontOfANullEntry)
     }
 }
 
+// The list ends with a null entry where memory ends.
+TEST(DotProduct, OfAListReadsNoEntryBehindANullOne)
+{
+    auto* const memory =
+        static_cast<char*>(mmap(nullptr, 8192, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
+    ASSERT_NE(memory, MAP_FAILED);
+    ASSERT_EQ(mprotect(memory + 4096, 4096, PROT_NONE), 0);
+    const Floats x(7, 1);
+    auto** const list = reinterpret_cast<const float**>(memory + 4096) - 2;
+    list[0] = x.data();
+    for (std::uint32_t shift : {0U, 4U}) {
+        Floats s(8, -1);
+        EXPECT_EQ(tenkDotProduct_vav_32f_5x1_L(list, shift, x.data(), s.data(), 8), tenkNullPointerError);
+        EXPECT_EQ(tenkDotProduct_vava_32f_4x1_L(list, shift, list, shift, s.data() + 1, 7),
+                  tenkNullPointerError);
+        EXPECT_EQ(s, (Floats{5, 4, -1, -1, -1, -1, -1, -1}));
+    }
+    munmap(memory, 8192);
+}
+
 // No object of a step is read before all entries of the step are tested.
 TEST(DotProduct, OfAListOfThreeOrFour32fElementsReadsNoneOfAStepWithANullEntry)
 {

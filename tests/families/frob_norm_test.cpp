@@ -398,19 +398,28 @@ unsigned resultsBeforeNull(unsigned size, const std::string& layout, unsigned nu
     return resultsInFront(dst);
 }
 
-// The same of a list without a shift, of matrices without gaps.
+// The same of a list without a shift, of matrices without gaps: in front of the results or behind them, the
+// list at any multiple of an entry.
 template <typename T>
 unsigned resultsBeforeNullWithoutGaps(unsigned size, unsigned nullAt, unsigned count)
 {
-    const std::vector<T> ones(std::size_t{size} * size, T(1));
-    std::vector<const T*> entries(count, ones.data());
-    entries[nullAt] = nullptr;
-    std::vector<T> dst(count, T(-1));
     const std::uint32_t row = size * sizeof(T);
-    EXPECT_EQ(callByName(nameOf<T>(true, size, "_L"),
-                         {{pointer(entries.data()), word(0), word(row)}, {pointer(dst.data()), word(count)}}),
-              tenkNullPointerError);
-    return resultsInFront(dst);
+    std::vector<unsigned> answers;
+    for (bool behind : {false, true})
+        for (unsigned offset : {0U, 1U, 2U, 3U}) {
+            std::vector<T> memory(size * size + count + size * size, T(1));
+            T* const dst = &memory[size * size];
+            std::fill_n(dst, count, T(-1));
+            std::vector<const T*> entries(offset + count, behind ? dst + count : memory.data());
+            entries[offset + nullAt] = nullptr;
+            EXPECT_EQ(
+                callByName(nameOf<T>(true, size, "_L"),
+                           {{pointer(&entries[offset]), word(0), word(row)}, {pointer(dst), word(count)}}),
+                tenkNullPointerError);
+            answers.push_back(resultsInFront(std::vector<T>(dst, dst + count)));
+        }
+    EXPECT_EQ(answers, std::vector<unsigned>(answers.size(), answers[0]));
+    return answers[0];
 }
 
 TEST(FrobNorm, OfAListWithoutGapsWritesWhatIsInFrontOfANullEntry)
@@ -427,6 +436,24 @@ TEST(FrobNorm, OfAListWithoutGapsWritesWhatIsInFrontOfANullEntry)
             EXPECT_EQ(resultsBeforeNullWithoutGaps<float>(size, nullAt, 12), nullAt);
             EXPECT_EQ(resultsBeforeNullWithoutGaps<double>(size, nullAt, 12), nullAt);
         }
+}
+
+// The list ends with a null entry where memory ends.
+TEST(FrobNorm, OfAListOfLargerMatricesReadsNoEntryBehindANullOne)
+{
+    auto* const memory =
+        static_cast<char*>(mmap(nullptr, 8192, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
+    ASSERT_NE(memory, MAP_FAILED);
+    ASSERT_EQ(mprotect(memory + 4096, 4096, PROT_NONE), 0);
+    const std::vector<float> x(26, 1);
+    auto** const list = reinterpret_cast<const float**>(memory + 4096) - 2;
+    list[0] = x.data();
+    for (std::uint32_t shift : {0U, 4U}) {
+        std::vector<float> dst(8, -1);
+        EXPECT_EQ(tenkFrobNorm_ma_32f_5x5_L(list, shift, 20, dst.data(), 8), tenkNullPointerError);
+        EXPECT_EQ(resultsInFront(dst), 1U);
+    }
+    munmap(memory, 8192);
 }
 
 // No object of a step is read before all entries of the step are tested.
