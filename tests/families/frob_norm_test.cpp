@@ -407,10 +407,11 @@ unsigned resultsBeforeNullWithoutGaps(unsigned size, unsigned nullAt, unsigned c
     std::vector<unsigned> answers;
     for (bool behind : {false, true})
         for (unsigned offset : {0U, 1U, 2U, 3U}) {
-            std::vector<T> memory(size * size + count + size * size, T(1));
-            T* const dst = &memory[size * size];
+            const unsigned apart = size * size + 1;
+            std::vector<T> memory(apart + count + apart, T(1));
+            T* const dst = &memory[apart];
             std::fill_n(dst, count, T(-1));
-            std::vector<const T*> entries(offset + count, behind ? dst + count : memory.data());
+            std::vector<const T*> entries(offset + count, behind ? dst + count + 1 : memory.data());
             entries[offset + nullAt] = nullptr;
             EXPECT_EQ(
                 callByName(nameOf<T>(true, size, "_L"),
