@@ -52,20 +52,23 @@ TENK_INLINE bool rowsInRange(Address rowIndex)
     return inRange;
 }
 
-// Whether all objects of a group have their rows in order: nothing was exchanged.
-template <unsigned order, unsigned objects>
+// Whether entries of rowIndex are the rows of objects in their order, so that nothing was exchanged.
+template <unsigned order, unsigned entries>
 TENK_INLINE bool rowsInOrder(Address rowIndex)
 {
-    bool inOrder = true;
-    if constexpr (order == 4) {
-        Mask<float> difference{};
-        each<objects>([&](auto g) TENK_LAMBDA {
-            difference |= load<Mask<float>>(rowIndex + g * 16) ^ Mask<float>{0, 1, 2, 3};
-        });
-        return !any(difference != Mask<float>{});
-    } else {
-        each<objects * order>([&](auto e) TENK_LAMBDA { inOrder &= rowAt(rowIndex, e) == e % order; });
-    }
+    constexpr unsigned four = entries / 4;
+    const auto row = [](std::size_t e) TENK_LAMBDA { return static_cast<int>(e % order); };
+    Mask<float> difference{};
+    each<four>([&](auto v) TENK_LAMBDA {
+        constexpr std::size_t e = v * 4;
+        difference |= load<Mask<float>>(rowIndex + e * sizeof(std::uint32_t)) ^
+                      Mask<float>{row(e), row(e + 1), row(e + 2), row(e + 3)};
+    });
+    bool inOrder = !any(difference != Mask<float>{});
+    each<entries % 4>([&](auto left) TENK_LAMBDA {
+        constexpr std::size_t e = four * 4 + left;
+        inOrder &= rowAt(rowIndex, e) == e % order;
+    });
     return inOrder;
 }
 
@@ -193,11 +196,11 @@ struct LUSolveGroups
     template <bool inOrder>
     TENK_INLINE bool haveRows(std::size_t k) const
     {
-        constexpr unsigned systems = oneFactor ? 1 : objects;
+        constexpr unsigned entries = oneFactor ? n : n * objects;
         if constexpr (inOrder)
-            return rowsInOrder<n, systems>(rowsOf(k));
+            return rowsInOrder<n, entries>(rowsOf(k));
         else
-            return rowsInRange<n, n * systems>(rowsOf(k));
+            return rowsInRange<n, entries>(rowsOf(k));
     }
 
     // The one factor, which stays as it is as long as groups are solved.
