@@ -175,6 +175,19 @@ struct Side
     }
 };
 
+// The starts of as many objects as a vector has lanes, from object k on.
+template <typename O>
+TENK_INLINE Addresses<typename O::Value> startsOf(const O& o, std::size_t k)
+{
+    const Address first = o.object(k, 0).start;
+    return Addresses<typename O::Value>::make([&](std::size_t g) TENK_LAMBDA {
+        if constexpr (O::list)
+            return o.object(k + g, 0).start;
+        else
+            return first + times(g, o.stride0);
+    });
+}
+
 // As many matrices of a group as a vector has lanes, from object `first` on: a[i][j] holds element (i, j) of
 // each. Without a gap between its rows a matrix is one long row.
 template <typename O, unsigned n, unsigned objects>

@@ -156,11 +156,7 @@ TENK_INLINE Addresses<T> behind(const Addresses<T>& a, std::size_t bytes)
 template <unsigned n>
 TENK_INLINE void loadSideBySide(const Addresses<float>& from, Vector<float>* to)
 {
-    if constexpr (n >= 4) {
-        each<4>([&](auto g) TENK_LAMBDA { to[g] = loadVector<float>(from.of[g]); });
-        turn(to[0], to[1], to[2], to[3]);
-        loadSideBySide<n - 4>(behind<float>(from, 16), to + 4);
-    } else if constexpr (n >= 2) {
+    if constexpr (n >= 2) {
         const auto first = loadHalves(from.of[0], from.of[1]), second = loadHalves(from.of[2], from.of[3]);
         to[0] = shuffle<0, 2, 4, 6>(first, second);
         to[1] = shuffle<1, 3, 5, 7>(first, second);

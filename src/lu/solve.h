@@ -52,6 +52,26 @@ TENK_INLINE bool rowsInRange(Address rowIndex)
     return inRange;
 }
 
+// Whether entries of rowIndex are the rows of objects in their order, so that nothing was exchanged.
+template <unsigned order, unsigned entries>
+TENK_INLINE bool rowsInOrder(Address rowIndex)
+{
+    constexpr unsigned four = entries / 4;
+    const auto row = [](std::size_t e) TENK_LAMBDA { return static_cast<int>(e % order); };
+    Mask<float> difference{};
+    each<four>([&](auto v) TENK_LAMBDA {
+        constexpr std::size_t e = v * 4;
+        difference |= load<Mask<float>>(rowIndex + e * sizeof(std::uint32_t)) ^
+                      Mask<float>{row(e), row(e + 1), row(e + 2), row(e + 3)};
+    });
+    bool inOrder = !any(difference != Mask<float>{});
+    each<entries % 4>([&](auto left) TENK_LAMBDA {
+        constexpr std::size_t e = four * 4 + left;
+        inOrder &= rowAt(rowIndex, e) == e % order;
+    });
+    return inOrder;
+}
+
 // One object, in place in dst.
 template <Member m, typename Factor, typename B, typename X>
 TENK_INLINE void luSolve(const Factor& factor, Address rowIndex, const B& b, const X& x, Size<m> order)
@@ -86,12 +106,10 @@ consteval bool luSolvesSideBySide(Member m)
     return m.batch() && !m.general() && isDense(m.layout);
 }
 
-// Groups that take turns: in a solution almost every operation waits for the one before. The addresses of a
-// list fill the registers of i386 with one group.
+// Groups that take turns: in a solution almost every operation waits for the one before.
 consteval unsigned luSolveTurns(Member m)
 {
-    const bool fewRegisters = sizeof(Address) == 4 && isList(m.layout);
-    return m.type == Type::f32 && !fewRegisters ? 2 : 1;
+    return m.type == Type::f32 ? 2 : 1;
 }
 
 // Calls meanwhile(i) for each position i on the way: work that does not have to wait.
@@ -163,22 +181,26 @@ struct LUSolveGroups
                 apartThroughout(src2, rightSides, dst, results, count);
     }
 
-    // Whether as many objects are there, no step is a long one, and no list has a null entry for them.
+    TENK_INLINE bool shortSteps() const { return matrices.fits && rightSides.fits && results.fits; }
+    // Whether as many objects are there, and no list has a null entry for them.
     TENK_INLINE bool areThere(std::size_t k) const
     {
-        return matrices.fits && rightSides.fits && results.fits && count - k >= objects &&
-               noNullObject<objects>(k, src1, src2, dst);
+        return count - k >= objects && noNullObject<objects>(k, src1, src2, dst);
     }
 
     TENK_INLINE Address rowsOf(std::size_t k) const
     {
         return oneFactor ? rowIndex : rowIndex + k * n * sizeof(std::uint32_t);
     }
-    // Whether the entries of rowIndex are rows.
+    // Whether the entries of rowIndex are rows, and those in order.
+    template <bool inOrder>
     TENK_INLINE bool haveRows(std::size_t k) const
     {
         constexpr unsigned entries = oneFactor ? n : n * objects;
-        return rowsInRange<n, entries>(rowsOf(k));
+        if constexpr (inOrder)
+            return rowsInOrder<n, entries>(rowsOf(k));
+        else
+            return rowsInRange<n, entries>(rowsOf(k));
     }
 
     // The one factor, which stays as it is as long as groups are solved.
@@ -195,32 +217,38 @@ struct LUSolveGroups
         }
     }
 
-    // Position i of the objects from k on.
-    template <std::size_t i>
-    TENK_INLINE void load(std::size_t k, const Factors& a, const RightSides& b, Index<i>, Systems& to) const
+    // A part of the loading of the objects from k on: as many parts as positions. `inOrder`: position i is
+    // row i of all of them.
+    template <bool inOrder, std::size_t part>
+    TENK_INLINE void load(std::size_t k, Index<part>, Systems& to) const
     {
-        each<turns>([&](auto t) TENK_LAMBDA {
-            constexpr std::size_t first = t * group<T>;
-            if constexpr (oneFactor) {
-                if constexpr (i == 0)
-                    loadSideBySide<n>(b.rowOfEach(0, first), to.rightSide[t]);
-            } else {
-                std::size_t row[group<T>];
-                each<group<T>>([&](auto g) TENK_LAMBDA { row[g] = rowAt(rowsOf(k), (first + g) * n + i); });
-                const auto ofRightSide = [&](std::size_t g)
-                                             TENK_LAMBDA { return b.object[first + g].at(0, row[g]); };
-                const auto ofFactor = [&](std::size_t g)
-                                          TENK_LAMBDA { return a.object[first + g].row(row[g]); };
-                to.rightSide[t][i] = elementOfEach(Addresses<T>::make(ofRightSide));
-                loadSideBySide<n>(Addresses<T>::make(ofFactor), to.factor[t][i]);
+        each<turns>([&](auto s) TENK_LAMBDA {
+            constexpr std::size_t t = (part * turns + s) / n, i = (part * turns + s) % n;
+            const std::size_t first = k + t * group<T>;
+            const auto b = startsOf(src2, first);
+            if constexpr ((oneFactor || inOrder) && i == 0)
+                loadSideBySide<n>(b, to.rightSide[t]);
+            if constexpr (!oneFactor) {
+                const auto a = startsOf(src1, first);
+                Addresses<T> row;
+                if constexpr (inOrder) {
+                    row = behind<T>(a, times(i, src1.stride1));
+                } else {
+                    const auto rowOf = [&](std::size_t g)
+                                           TENK_LAMBDA { return rowAt(rowsOf(first), g * n + i); };
+                    to.rightSide[t][i] = elementOfEach(Addresses<T>::make(
+                        [&](std::size_t g) TENK_LAMBDA { return b.of[g] + rowOf(g) * sizeof(T); }));
+                    row = Addresses<T>::make(
+                        [&](std::size_t g) TENK_LAMBDA { return a.of[g] + times(rowOf(g), src1.stride1); });
+                }
+                loadSideBySide<n>(row, to.factor[t][i]);
             }
         });
     }
+    template <bool inOrder>
     TENK_INLINE void load(std::size_t k, Systems& to) const
     {
-        const Factors a(src1, matrices, k);
-        const RightSides b(src2, rightSides, k);
-        each<n>([&](auto i) TENK_LAMBDA { load(k, a, b, i, to); });
+        each<n>([&](auto part) TENK_LAMBDA { load<inOrder>(k, part, to); });
     }
 
     // Solves and stores the objects from k on.
@@ -243,18 +271,18 @@ struct LUSolveGroups
     // next.
     TENK_INLINE std::size_t inSequence(std::size_t k)
     {
-        for (bool loaded = false; areThere(k); k += objects) {
+        for (bool loaded = false; shortSteps() && areThere(k); k += objects) {
             const Factors a(src1, matrices, k);
             const RightSides b(src2, rightSides, k);
             const Results to(dst, results, k);
             if (!to.eachApart() || (!apart && (!mayReadFirst(a, to, false) || !mayReadFirst(b, to, false))) ||
-                !haveRows(k))
+                !haveRows<false>(k))
                 break;
             if (!loaded)
                 loadOneFactor();
             loaded = true;
             Systems systems;
-            load(k, systems);
+            load<false>(k, systems);
             solve(k, systems, [](auto) TENK_LAMBDA {});
         }
         return k;
@@ -262,47 +290,53 @@ struct LUSolveGroups
 
     // Whether nothing could tell that the objects from k on are read before the results from object `written`
     // on are written. Those of a list have to lie in ascending order, with nothing in between that is read.
+    template <bool inOrder>
     TENK_INLINE bool mayReadAhead(std::size_t k, std::size_t written) const
     {
-        if (!areThere(k) || !haveRows(k))
+        if (!shortSteps() || !areThere(k))
             return false;
-        bool may = true;
         if constexpr (Destination<m>::list) {
-            const Factors a(src1, matrices, k);
-            const RightSides b(src2, rightSides, k);
-            const Results to(dst, results, k);
             const Address first = dst.object(written, n).start;
             Address behind = k == written ? first : dst.object(k - 1, n).start + results.length;
-            each<objects>([&](auto g) TENK_LAMBDA {
-                may &= to.object[g].start - behind <= Address{results.nearby};
-                behind = to.object[g].start + results.length;
-            });
+            // In loops, since the addresses of all of them at once would fill the registers.
+            for (std::size_t g = k; g < k + objects; ++g) {
+                const Address start = dst.object(g, n).start;
+                if (start - behind > Address{results.nearby})
+                    return false;
+                behind = start + results.length;
+            }
             const Bytes all{first, behind - first};
-            each<Factors::size>([&](auto g) TENK_LAMBDA { may &= tenk::apart(all, a.bytesOf(g)); });
-            each<objects>([&](auto g) TENK_LAMBDA { may &= tenk::apart(all, b.bytesOf(g)); });
-        } else {
-            may = apart;
+            const auto areApart = [&](const auto& o, const auto& span) TENK_LAMBDA {
+                for (std::size_t g = k; g < k + span.size; ++g)
+                    if (!tenk::apart(all, {o.object(g, n).start + span.offset, span.length}))
+                        return false;
+                return true;
+            };
+            if (!areApart(src1, matrices) || !areApart(src2, rightSides))
+                return false;
+        } else if (!apart) {
+            return false;
         }
-        return may;
+        return haveRows<inOrder>(k);
     }
 
     // The same, but while groups are solved the next ones are loaded.
+    template <bool inOrder>
     TENK_INLINE std::size_t readingAhead(std::size_t k)
     {
-        if (!mayReadAhead(k, k))
+        if (!mayReadAhead<inOrder>(k, k))
             return k;
         loadOneFactor();
         Systems systems[2];
-        load(k, systems[0]);
+        load<inOrder>(k, systems[0]);
         const auto step = [&](const Systems& now, Systems& then) TENK_LAMBDA {
             const std::size_t next = k + objects;
-            const bool more = mayReadAhead(next, k);
-            // At the end the last ones once more: behind a branch the compiler would put off all loading
-            // until the solution is done.
-            const std::size_t loaded = more ? next : k;
-            const Factors a(src1, matrices, loaded);
-            const RightSides b(src2, rightSides, loaded);
-            solve(k, now, [&](auto i) TENK_LAMBDA { load(loaded, a, b, i, then); });
+            const bool more = mayReadAhead<inOrder>(next, k);
+            if (more) {
+                solve(k, now, [&](auto part) TENK_LAMBDA { load<inOrder>(next, part, then); });
+            } else {
+                solve(k, now, [](auto) TENK_LAMBDA {});
+            }
             k = next;
             return more;
         };
@@ -339,7 +373,9 @@ TENK_INLINE tenkStatus luBackSubst(Source<m, 0> src1, const std::uint32_t* rowIn
     [[maybe_unused]] auto alone = luSolveGroups<m, 1>(src1, rows, src2, dst, count);
     for (std::size_t k = 0; k < count; ++k) {
         if constexpr (luSolvesSideBySide(m)) {
-            k = inTurns.readingAhead(k);
+            if constexpr (m.operand[0].array)
+                k = inTurns.template readingAhead<true>(k);
+            k = inTurns.template readingAhead<false>(k);
             k = alone.inSequence(k);
             if (k == count)
                 break;

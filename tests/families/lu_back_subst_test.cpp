@@ -107,10 +107,17 @@ struct Call
     // Random factors with pivots away from zero, arbitrary permutations, right-hand sides.
     void fill(std::mt19937& random)
     {
+        fill(random, [](std::size_t) { return true; });
+    }
+    // The same, but only objects for which exchanged(k) holds have their rows exchanged.
+    template <typename F>
+    void fill(std::mt19937& random, F exchanged)
+    {
         for (std::size_t k = 0; k < src1.count; ++k) {
             Rows rows(n);
             std::iota(rows.begin(), rows.end(), 0U);
-            std::shuffle(rows.begin(), rows.end(), random);
+            if (exchanged(k))
+                std::shuffle(rows.begin(), rows.end(), random);
             std::copy(rows.begin(), rows.end(), rowIndex.begin() + static_cast<long>(k * n));
             src1.setObject(k, randomElements<T>(random, n * n));
             for (std::size_t p = 0; p < n; ++p)
@@ -536,6 +543,26 @@ TYPED_TEST(LUBackSubst, EntriesOfRowIndexAreUsedAsTheyStand)
         for (std::size_t k = 0; k < 5; ++k)
             EXPECT_TRUE(same({x[3 * k], x[3 * k + 1], x[3 * k + 2]}, std::vector<T>{1, 2, 4})) << oneFactor;
     }
+}
+
+TYPED_TEST(LUBackSubst, RowsInOrderButThoseOfOneObject)
+{
+    using T = TypeParam;
+    std::mt19937 random(17);
+    for (unsigned n = 3; n <= 6; ++n)
+        for (Form form : {Form::standard, Form::list})
+            for (std::size_t count : {1U, 4U, 8U, 9U, 16U, 21U})
+                for (std::size_t other : {0U, 2U, 7U, 8U, 15U, 20U, 21U}) {
+                    if (other > count)
+                        continue;
+                    Call<T> call(Code::mava, n, form, n, count);
+                    call.fill(random, [&](std::size_t k) { return k == other; });
+                    ASSERT_EQ(call.run(), tenkOk);
+                    for (std::size_t k = 0; k < count; ++k)
+                        EXPECT_TRUE(same(call.dst.object(k),
+                                         solutionOf(call.factorOf(k), call.rowsOf(k), call.src2.object(k))))
+                            << call.name << " of " << count << ", object " << k << ", exchanged " << other;
+                }
 }
 
 TYPED_TEST(LUBackSubst, ABatchWithoutGapsInOrderAndExchanged)
