@@ -55,10 +55,13 @@ public:
         std::uniform_real_distribution<T> number(T(-1), T(1));
         for (T& x : values_)
             x = number(random);
-        // A heavy diagonal keeps inverses and factors well away from their limits.
+        // A heavy diagonal keeps inverses and factors well away from their limits, and rows where they are.
+        // With BENCH_EXCHANGED in the environment the rows of each object are turned by another number of
+        // places.
+        const bool exchanged = std::getenv("BENCH_EXCHANGED") != nullptr;
         for (unsigned k = 0; k < count; ++k)
             for (unsigned i = 0; i < rows && rows > 1 && i < columns; ++i)
-                *at(k, i, i) += T(3);
+                *at(k, exchanged ? (i + k) % rows : i, i) += T(3);
         for (unsigned e = 0; layout == Layout::Pointer && e < rows * columns; ++e)
             pointers_.push_back(base() + std::size_t{e} * count);
         for (unsigned k = 0; layout == Layout::List && k < count; ++k)

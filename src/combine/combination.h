@@ -43,7 +43,7 @@ TENK_INLINE void elements(F f, Address dst, Address x, Address y)
     using R = Row<T, n>;
     // Three elements go one after the other as quickly as it takes to find out whether they may go in
     // vectors.
-    constexpr bool three = n == 3 && (sizeof(T) == 8 || sizeof(Address) == 8);
+    constexpr bool three = n == 3 && (sizeof(T) == 8 || !fewRegisters);
     if (overlap == Overlap::ascending &&
         (three || startsInside(dst, x, n * sizeof(T)) || startsInside(dst, y, n * sizeof(T)))) [[unlikely]]
         each<n>([&](auto j) TENK_LAMBDA {

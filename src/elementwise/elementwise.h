@@ -158,13 +158,10 @@ TENK_INLINE tenkStatus rowObjects(F f, Destination<m> dst, std::size_t width, st
 // In vectors
 // ---------------------------------------------------------------------------------------------------------------
 
-// On i386 a loop finds its shifts and counts in memory.
-inline constexpr bool hasFewRegisters = sizeof(Address) == 4;
-
 // A sum that is added up once. Without registers to spare the compiler would form it anew at each use.
 TENK_INLINE Address inOneRegister(Address sum)
 {
-    if constexpr (hasFewRegisters)
+    if constexpr (fewRegisters)
         asm("" : "+r"(sum));
     return sum;
 }
@@ -440,7 +437,8 @@ TENK_INLINE tenkStatus gaplessObjects(F f, Destination<m> dst, std::size_t count
     const auto objects = [&](const auto& to, const auto&... from) TENK_LAMBDA {
         return packedObjects<m, rows, elements / rows, true>(f, to, count, from...);
     };
-    if constexpr (isList(m.layout) && hasFewRegisters)
+    // A loop would find its shifts in memory.
+    if constexpr (isList(m.layout) && fewRegisters)
         if (unshifted(dst, src...))
             return objects(withoutShift(dst), withoutShift(src)...);
     return objects(dst, src...);

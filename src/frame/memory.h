@@ -15,6 +15,9 @@ namespace tenk {
 // entry is an address like any other.
 using Address = std::uintptr_t;
 
+// With addresses of 32 bits the processor has eight general and eight vector registers, otherwise sixteen.
+inline constexpr bool fewRegisters = sizeof(Address) == 4;
+
 // A stride or shift: a 32-bit two's-complement number of bytes, at the width of an address.
 using Displacement = std::intptr_t;
 

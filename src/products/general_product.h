@@ -78,7 +78,7 @@ template <Member m, typename Left, typename Right, typename Out>
 TENK_INLINE void productInTiles(const Left& left, const Right& right, const Out& out, std::size_t height,
                                 std::size_t width, std::size_t terms)
 {
-    constexpr unsigned rows = sizeof(Address) == 8 ? 4 : 2; // as many sums as there are registers for
+    constexpr unsigned rows = fewRegisters ? 2 : 4; // as many sums as there are registers for
     std::size_t i = 0;
     for (; i + rows <= height; i += rows)
         productRows<m, rows>(left, right, out, i, width, terms);

@@ -8,8 +8,6 @@
 
 namespace tenk {
 
-inline constexpr bool manyRegisters = sizeof(Address) == 8;
-
 template <typename T>
 TENK_INLINE Address resultAddress(const T* dst, std::size_t k)
 {

@@ -37,7 +37,7 @@ consteval BatchSteps stepsOf(Member m, bool dense)
     if (!m.batch() || m.general() || !(m.layout == Layout::Standard || (list && dense)))
         return {1, true};
     const bool manyLoads = m.type == Type::f64 || (m.source(1).array && m.size > 4);
-    if (list && !manyRegisters && manyLoads)
+    if (list && fewRegisters && manyLoads)
         return {1, true};
     return {m.type == Type::f32 ? 4U : 2U, false};
 }
@@ -215,7 +215,7 @@ TENK_INLINE tenkStatus products(Source<m> src1, Source<m, 1> src2, Element<m>* d
         const OnOneSide<n, Source<m, 1>> side2(src2, dst,
                                                side1.possible && !src1.nullEntry(0) ? std::size_t{count} : 0);
         const auto step = [&](std::size_t k, Vector<T>& sums) TENK_LAMBDA {
-            if constexpr (!manyRegisters) {
+            if constexpr (fewRegisters) {
                 if (!none(_mm_or_si128(side1.mayNotRead(k), side2.mayNotRead(k))))
                     return false;
                 sums = several(k);

@@ -242,7 +242,7 @@ TENK_INLINE std::size_t normsInPipeline(const Source<m>& src, Element<m>* dst, s
         return 0;
     const auto sums = [=](std::size_t k, Vector<T>& part) TENK_LAMBDA {
         const auto view = [&](std::size_t i) TENK_LAMBDA { return src.object(k + i, m.size); };
-        if constexpr (list && !manyRegisters && m.type == Type::f32) {
+        if constexpr (list && fewRegisters && m.type == Type::f32) {
             return none(side.mayNotRead(k)) && sumsOfStep<T, m.size, true>(view, Always{}, part);
         } else {
             bool read = true;
@@ -255,7 +255,7 @@ TENK_INLINE std::size_t normsInPipeline(const Source<m>& src, Element<m>* dst, s
     };
     Vector<float> half = broadcast(0.5f), three = broadcast(3.0f);
     const auto roots = [&](auto s) TENK_LAMBDA {
-        if constexpr (refinesEstimate(m) && !manyRegisters) {
+        if constexpr (refinesEstimate(m) && fewRegisters) {
             asm volatile("" : "+m"(half), "+m"(three)); // there is no register to spare
             return refinedRoot(s, half, three);
         } else {
