@@ -24,12 +24,12 @@ consteval bool isPacked(Member m)
     return isDense(m.layout);
 }
 
-// Members with a loop of their own for rows without gaps, whose distances are numbers of the machine code. On
-// x86-64 the steps of Standard layout are in registers anyhow.
+// Members with a loop of their own for rows without gaps, whose distances are numbers of the machine code:
+// where it is the faster one. The steps of Standard layout are in registers anyhow if there are sixteen.
 consteval bool knowsGapless(Member m)
 {
-    return m.batch() && isPacked(m) && m.type == Type::f64 && m.size == 4 &&
-           (isList(m.layout) || registersAreFew);
+    return m.batch() && isPacked(m) && m.size == 4 &&
+           (registersAreFew ? m.type == Type::f64 : isList(m.layout));
 }
 
 template <Member m, typename View>
