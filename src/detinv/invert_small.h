@@ -26,7 +26,7 @@ consteval bool isPacked(Member m)
 
 // Members with a loop of their own for rows without gaps, whose distances are numbers of the machine code:
 // where it is the faster one. The steps of Standard layout are in registers anyhow if there are sixteen.
-consteval bool knowsGapless(Member m)
+consteval bool knowsGaplessMatrices(Member m)
 {
     return m.batch() && isPacked(m) && m.size == 4 &&
            (registersAreFew ? m.type == Type::f64 : isList(m.layout));
@@ -59,7 +59,7 @@ TENK_INLINE tenkStatus invertSmall(Source<m> src, Destination<m> dst, Count<m> c
     constexpr unsigned n = m.size;
     if (anyNull(src, dst) || anyNullEntry(src, n * n) || anyNullEntry(dst, n * n))
         return tenkNullPointerError;
-    if constexpr (knowsGapless(m))
+    if constexpr (knowsGaplessMatrices(m))
         if (gapless<n>(src) && gapless<n>(dst))
             return invertObjects<m>(packed<n>(src), packed<n>(dst), count,
                                     [](const auto& object)

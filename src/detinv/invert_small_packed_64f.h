@@ -9,6 +9,7 @@
 
 #include "detinv/column_exchange.h"
 #include "detinv/limits.h"
+#include "frame/packed.h"
 
 namespace tenk {
 
@@ -71,8 +72,6 @@ TENK_INLINE bool invertBlock(Block<double, 3>& a)
 
 // With eight vector registers, rows of order 4 are read again for each pair of rows: kept, they would go to
 // the stack and come back from there.
-inline constexpr bool registersAreFew = sizeof(void*) == 4;
-
 TENK_INLINE void readAgainIfRegistersAreFew()
 {
     if constexpr (registersAreFew)
