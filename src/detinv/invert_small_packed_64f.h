@@ -287,6 +287,7 @@ struct Packed<double, 4>
             a.store(to);
             return true;
         } else {
+            // Rows without gaps all begin at multiples of 16, or none does.
             if constexpr (requires { From::aligned; })
                 if (from.start % 16 == 0)
                     return invertFromMemory(GaplessView<double, 4, true>{from.start}, to);
@@ -294,7 +295,7 @@ struct Packed<double, 4>
         }
     }
 
-    // Rows at multiples of 16 are operands of the arithmetic where they lie.
+    // Rows at multiples of 16 are operands of the arithmetic without being loaded first.
     template <typename From, typename To>
     TENK_INLINE static bool invertFromMemory(const From& from, const To& to)
     {
