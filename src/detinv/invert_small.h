@@ -15,6 +15,7 @@
 #include "detinv/invert_small_packed_32f.h"
 #include "detinv/invert_small_packed_64f.h"
 #include "detinv/invert_small_scalar.h"
+#include "frame/packed.h"
 
 namespace tenk {
 
@@ -23,18 +24,24 @@ consteval bool isPacked(Member m)
     return isDense(m.layout);
 }
 
-template <Member m>
-TENK_INLINE tenkStatus invertSmall(Source<m> src, Destination<m> dst, Count<m> count)
+// Members with a loop of their own for rows without gaps, whose distances are numbers of the machine code:
+// where it is the faster one. The steps of Standard layout are in registers anyhow if there are sixteen.
+consteval bool knowsGaplessMatrices(Member m)
+{
+    return m.batch() && isPacked(m) && m.size == 4 &&
+           (registersAreFew ? m.type == Type::f64 : isList(m.layout));
+}
+
+template <Member m, typename View>
+TENK_INLINE tenkStatus invertObjects(const Source<m>& src, const Destination<m>& dst, Count<m> count,
+                                     View view)
 {
     constexpr unsigned n = m.size;
-    if (anyNull(src, dst) || anyNullEntry(src, n * n) || anyNullEntry(dst, n * n))
-        return tenkNullPointerError;
-
     for (std::size_t k = 0; k < count; ++k) {
         if (anyNullObject(k, dst, src))
             return tenkNullPointerError;
-        const auto from = src.object(k, n);
-        const auto to = dst.object(k, n);
+        const auto from = view(src.object(k, n));
+        const auto to = view(dst.object(k, n));
         bool regular;
         if constexpr (isPacked(m))
             regular = Packed<Element<m>, n>::invert(from, to);
@@ -44,6 +51,20 @@ TENK_INLINE tenkStatus invertSmall(Source<m> src, Destination<m> dst, Count<m> c
             return tenkSingularError;
     }
     return tenkOk;
+}
+
+template <Member m>
+TENK_INLINE tenkStatus invertSmall(Source<m> src, Destination<m> dst, Count<m> count)
+{
+    constexpr unsigned n = m.size;
+    if (anyNull(src, dst) || anyNullEntry(src, n * n) || anyNullEntry(dst, n * n))
+        return tenkNullPointerError;
+    if constexpr (knowsGaplessMatrices(m))
+        if (gapless<n>(src) && gapless<n>(dst))
+            return invertObjects<m>(packed<n>(src), packed<n>(dst), count,
+                                    [](const auto& object)
+                                        TENK_LAMBDA { return GaplessView<Element<m>, n>{object.start}; });
+    return invertObjects<m>(src, dst, count, [](const auto& object) TENK_LAMBDA { return object; });
 }
 
 } // namespace tenk

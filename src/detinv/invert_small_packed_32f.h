@@ -303,7 +303,8 @@ struct Packed<float, 3>
 template <>
 struct Packed<float, 4>
 {
-    TENK_INLINE static bool invert(const DenseView<float>& from, const DenseView<float>& to)
+    template <typename From, typename To>
+    TENK_INLINE static bool invert(const From& from, const To& to)
     {
         Quad rows[4], cofactors[4], adjugate[4]; // of the adjugate row 1, 0, 3, 2
         each<4>([&](auto i) TENK_LAMBDA { rows[i] = loadVector<float>(from.row(i)); });

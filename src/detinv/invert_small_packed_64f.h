@@ -9,6 +9,7 @@
 
 #include "detinv/column_exchange.h"
 #include "detinv/limits.h"
+#include "frame/packed.h"
 
 namespace tenk {
 
@@ -73,7 +74,7 @@ TENK_INLINE bool invertBlock(Block<double, 3>& a)
 // the stack and come back from there.
 TENK_INLINE void readAgainIfRegistersAreFew()
 {
-    if constexpr (sizeof(void*) == 4)
+    if constexpr (registersAreFew)
         asm volatile("" ::: "memory");
 }
 
@@ -157,7 +158,7 @@ TENK_INLINE bool invertRows(const Rows& rows, Block<double, 4>& inverse)
     const Pair determinant = terms + exchangePair(terms);
     if (determinant[0] == 0)
         return false;
-    const Pair reciprocal = broadcast(1.0) / determinant;
+    const Pair reciprocal = inRegister(broadcast(1.0)) / determinant;
     lower.finish(adjugate);
     inverse = Block<double, 4>::map([&](Pair x) TENK_LAMBDA { return reciprocal * x; }, adjugate);
     return true;
@@ -276,10 +277,35 @@ struct Packed<double, 3>
 template <>
 struct Packed<double, 4>
 {
-    TENK_INLINE static bool invert(const DenseView<double>& from, const DenseView<double>& to)
+    template <typename From, typename To>
+    TENK_INLINE static bool invert(const From& from, const To& to)
     {
-        const auto rows = [&](unsigned i, unsigned v)
-                              TENK_LAMBDA { return loadVector<double>(from.at(i, 2 * v)); };
+        if constexpr (!registersAreFew) {
+            auto a = Block<double, 4>::load(from);
+            if (!invertBlock(a))
+                return false;
+            a.store(to);
+            return true;
+        } else {
+            // Rows without gaps all begin at multiples of 16, or none does.
+            if constexpr (requires { From::aligned; })
+                if (from.start % 16 == 0)
+                    return invertFromMemory(GaplessView<double, 4, true>{from.start}, to);
+            return invertFromMemory(from, to);
+        }
+    }
+
+    // Rows at multiples of 16 are operands of the arithmetic without being loaded first.
+    template <typename From, typename To>
+    TENK_INLINE static bool invertFromMemory(const From& from, const To& to)
+    {
+        const auto rows = [&](unsigned i, unsigned v) TENK_LAMBDA {
+            const Address vector = from.row(i) + v * 16;
+            if constexpr (requires { requires From::aligned; })
+                return loadAligned<double>(vector);
+            else
+                return loadVector<double>(vector);
+        };
         Block<double, 4> inverse;
         if (!invertRows(rows, inverse))
             return false;

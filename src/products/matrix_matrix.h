@@ -13,6 +13,7 @@
 // product is written.
 #pragma once
 
+#include "frame/packed.h"
 #include "products/general_product.h"
 
 namespace tenk {
@@ -213,9 +214,16 @@ TENK_INLINE tenkStatus matrixMatrix(Source<m, 0> src1, Size<m> src1Width, Size<m
                 readRight<m>(src2);
             return tenkOk;
         }
-        if constexpr (knowsPacked(m))
-            if (arePacked<m.size>(src1, src2, dst))
-                return multiplyAll<m, true>(src1, src2, dst, count);
+        if constexpr (knowsPacked(m)) {
+            constexpr unsigned n = m.size;
+            if constexpr (isList(m.layout)) {
+                if (gapless<n>(src1) && gapless<n>(src2) && gapless<n>(dst))
+                    return multiplyAll<m, true>(packed<n>(src1), packed<n>(src2), packed<n>(dst), count);
+            } else {
+                if (arePacked<n>(src1, src2, dst))
+                    return multiplyAll<m, true>(src1, src2, dst, count);
+            }
+        }
         return multiplyAll<m, false>(src1, src2, dst, count);
     } else {
         const std::size_t width1 = transposed1 ? src1Height : src1Width; // row lengths in tables

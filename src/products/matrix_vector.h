@@ -10,6 +10,7 @@
 // other members keep the running sum in the destination.
 #pragma once
 
+#include "frame/packed.h"
 #include "products/vector_kernels.h"
 
 namespace tenk {
@@ -20,6 +21,13 @@ namespace tenk {
 consteval bool testsUntransposedEntry(Member m)
 {
     return hasCodesOf(m, "tenkMul_mTv_32f") && isTable(m.layout);
+}
+
+// Members with a loop of their own for operands without gaps: where it is the faster one.
+consteval bool knowsGapless(Member m)
+{
+    return knowsPacked(m) && m.operand[0].array && m.operand[1].array &&
+           (isList(m.layout) || registersAreFew);
 }
 
 // Any size and layout, one object.
@@ -56,6 +64,55 @@ TENK_INLINE tenkStatus generalVectorProduct(const Matrix& matrix, const Vec& vec
                                    [](std::size_t, Element<m>) TENK_LAMBDA {});
 }
 
+// product(k) for the objects of a batch, object by object.
+template <typename F, typename... O>
+TENK_INLINE tenkStatus eachProduct(std::size_t count, F product, const O&... operands)
+{
+    // Counts down, too: where registers are few, `count` is in memory and would be read for each object.
+    for (std::size_t k = 0, left = count; left != 0; ++k, --left) {
+        if (anyNullObject(k, operands...))
+            return tenkNullPointerError;
+        if (const tenkStatus status = product(k); status != tenkOk)
+            return status;
+    }
+    return tenkOk;
+}
+
+// A vector to each matrix, without gaps. Objects a step apart are found from behind the last one, by a
+// distance that runs up to zero: it stands for all their steps and for the count.
+template <Member m>
+TENK_INLINE tenkStatus gaplessVectorProducts(const Source<m, 0>& matrices, const Source<m, 1>& vectors,
+                                             const Destination<m>& products, std::size_t count)
+{
+    using T = Element<m>;
+    constexpr unsigned n = m.size;
+    const auto multiply = [](Address matrix, Address vector, Address product) TENK_LAMBDA {
+        const auto v = inRegisters(Row<T, n>::load(vector));
+        productOfStored<m>(PackedView<T, n>{matrix}, v).store(product);
+    };
+    if constexpr (isList(m.layout)) {
+        return eachProduct(
+            count,
+            [&](std::size_t k) TENK_LAMBDA -> tenkStatus {
+                multiply(matrices.entry(k), vectors.entry(k), products.entry(k));
+                return tenkOk;
+            },
+            matrices, vectors, products);
+    } else {
+        constexpr Address row = n * sizeof(T);
+        const auto behindLast = [&](Address start, Address object) TENK_LAMBDA {
+            start += count * object;
+            asm("" : "+r"(start)); // in a register, although it is the same for all objects
+            return start;
+        };
+        const Address matrix = behindLast(matrices.p, n * row);
+        const Address vector = behindLast(vectors.p, row), product = behindLast(products.p, row);
+        for (Address at = 0 - count * row; at != 0; at += row)
+            multiply(matrix + n * at, vector + at, product + at);
+        return tenkOk;
+    }
+}
+
 template <Member m>
 TENK_INLINE tenkStatus matrixVector(Source<m, 0> src1, Size<m> src1Width, Size<m> src1Height,
                                     Source<m, 1> src2, Size<m> src2Length, Destination<m> dst, Count<m> count)
@@ -74,16 +131,8 @@ TENK_INLINE tenkStatus matrixVector(Source<m, 0> src1, Size<m> src1Width, Size<m
         return tenkOk;
 
     const std::size_t rowLength = transposed ? src1Height : src1Width; // in tables
-    const auto run = [&](auto product) TENK_LAMBDA -> tenkStatus {
-        // Counts down, too: where registers are few, `count` is in memory and would be read for each object.
-        for (std::size_t k = 0, left = count; left != 0; ++k, --left) {
-            if (anyNullObject(k, src1, src2, dst))
-                return tenkNullPointerError;
-            if (const tenkStatus status = product(k); status != tenkOk)
-                return status;
-        }
-        return tenkOk;
-    };
+    const auto run = [&](auto product)
+                         TENK_LAMBDA -> tenkStatus { return eachProduct(count, product, src1, src2, dst); };
     if constexpr (m.general() || !isDense(m.layout)) {
         return run([&](std::size_t k) TENK_LAMBDA -> tenkStatus {
             return generalVectorProduct<m>(src1.object(k, rowLength), src2.object(k, src2Length),
@@ -112,9 +161,13 @@ TENK_INLINE tenkStatus matrixVector(Source<m, 0> src1, Size<m> src1Width, Size<m
             }
         };
         if constexpr (m.operand[0].array) {
-            if constexpr (knowsPacked(m))
+            if constexpr (knowsGapless(m)) {
+                if (gapless<n>(src1) && gapless<n, 1>(src2) && gapless<n, 1>(dst))
+                    return gaplessVectorProducts<m>(src1, src2, dst, count);
+            } else if constexpr (knowsPacked(m)) {
                 if (arePacked<n>(src1))
                     return runArrayOfMatrices(std::true_type());
+            }
             return runArrayOfMatrices(std::false_type());
         } else if constexpr (m.operand[1].array) {
             const auto matrix = TurnedMatrix<m>::load(src1.object(0, n));

@@ -413,10 +413,72 @@ void gapless(std::size_t n, F standard, L list)
         EXPECT_EQ(objects, expected);
     }
 }
-TEST(InvertSmall, OfOrder3WithoutGapsIsTheSameToTheBit)
+TEST(InvertSmall, OfOrders3And4WithoutGapsIsTheSameToTheBit)
 {
     gapless<float>(3, tenkInvert_ma_32f_3x3, tenkInvert_ma_32f_3x3_L);
     gapless<double>(3, tenkInvert_ma_64f_3x3, tenkInvert_ma_64f_3x3_L);
+    gapless<float>(4, tenkInvert_ma_32f_4x4, tenkInvert_ma_32f_4x4_L);
+    gapless<double>(4, tenkInvert_ma_64f_4x4, tenkInvert_ma_64f_4x4_L);
+}
+
+// Three objects of order 4, in elements: where the first begins, from row to row, and behind the last row of
+// an object, which in a list is added to its entries instead.
+struct Gaps
+{
+    std::size_t offset, row, behind;
+    std::size_t at(std::size_t k, std::size_t i, std::size_t j) const
+    {
+        return 1 + offset + k * (4 * row + behind) + i * row + j;
+    }
+};
+
+// Ones on the diagonal and in column 0 numbers, which the inverse has with the other sign.
+template <typename T, typename F, typename L>
+void invertsBetween(const Gaps& from, const Gaps& to, F standard, L list)
+{
+    const auto bytes = [](std::size_t n) { return static_cast<std::uint32_t>(n * sizeof(T)); };
+    alignas(16) T source[66], before[66], after[66];
+    std::fill(source, source + 66, T(untouched));
+    std::fill(before, before + 66, T(untouched));
+    std::copy(before, before + 66, after);
+    const T* entries[3];
+    T* results[3];
+    for (std::size_t k = 0; k < 3; ++k) {
+        entries[k] = source + from.at(k, 0, 0) - from.behind;
+        results[k] = before + to.at(k, 0, 0) - to.behind;
+        for (std::size_t i = 0; i < 4; ++i)
+            for (std::size_t j = 0; j < 4; ++j) {
+                const T number = i == j ? T(1) : j == 0 ? T(10 * k + i) : T(0);
+                source[from.at(k, i, j)] = number;
+                after[to.at(k, i, j)] = i == j ? number : -number;
+            }
+    }
+    const auto expectInverses = [&](const char* layout) {
+        for (std::size_t e = 0; e < 66; ++e)
+            EXPECT_NEAR(before[e], after[e], 1e-5) << layout << e;
+        std::fill(before, before + 66, T(untouched));
+    };
+    EXPECT_EQ(standard(source + from.at(0, 0, 0), bytes(4 * from.row + from.behind), bytes(from.row),
+                       before + to.at(0, 0, 0), bytes(4 * to.row + to.behind), bytes(to.row), 3U),
+              tenkOk);
+    expectInverses("Standard ");
+    EXPECT_EQ(
+        list(entries, bytes(from.behind), bytes(from.row), results, bytes(to.behind), bytes(to.row), 3U),
+        tenkOk);
+    expectInverses("List ");
+}
+TEST(InvertSmall, OfOrder4FindsTheGapsOfEitherOperand)
+{
+    for (const std::size_t offset : {0U, 1U})
+        for (const std::size_t row : {4U, 5U})
+            for (const std::size_t behind : {0U, 1U})
+                for (const Gaps& other : {Gaps{0, 4, 0}, Gaps{1, 4, 0}, Gaps{1, 4, 1}, Gaps{0, 5, 0}}) {
+                    const Gaps gaps{offset, row, behind};
+                    invertsBetween<float>(gaps, other, tenkInvert_ma_32f_4x4, tenkInvert_ma_32f_4x4_L);
+                    invertsBetween<double>(gaps, other, tenkInvert_ma_64f_4x4, tenkInvert_ma_64f_4x4_L);
+                    invertsBetween<float>(other, gaps, tenkInvert_ma_32f_4x4, tenkInvert_ma_32f_4x4_L);
+                    invertsBetween<double>(other, gaps, tenkInvert_ma_64f_4x4, tenkInvert_ma_64f_4x4_L);
+                }
 }
 TEST(InvertSmall, OfOrder3WithoutGapsSumsTheDeterminantInTheSameOrder)
 {

@@ -909,6 +909,51 @@ TEST(MulMatrix, RowsOfTheDestinationMayCoincide)
               (std::array{201.F, 403.F, 605.F, 807.F, 8070.F, -1.F}));
 }
 
+// Two products of diagonal matrices, 1, 2, ... by 10 (k + 1), 10 (k + 1) + 1, ... In one operand there is an
+// element behind each row, or one is added to the entries of its list.
+template <typename T>
+void multipliesInLists(const std::string& code, unsigned n, unsigned operand, bool behindRows)
+{
+    constexpr T gap = -9;
+    constexpr auto e = static_cast<std::uint32_t>(sizeof(T));
+    std::vector<T> of[3]; // left, right, product; the first element is part of no matrix
+    T* entries[3][2];
+    Arguments arguments;
+    std::vector<T> expected;
+    for (unsigned o = 0; o < 3; ++o) {
+        const unsigned rowStep = n + (o == operand && behindRows), shift = o == operand && !behindRows;
+        of[o].assign(1 + 2 * n * rowStep, gap);
+        std::vector<T> values(of[o]);
+        for (unsigned k = 0; k < 2; ++k) {
+            entries[o][k] = &of[o][1 + k * n * rowStep - shift];
+            for (unsigned i = 0; i < n; ++i)
+                for (unsigned j = 0; j < n; ++j) {
+                    const T left = T(i + 1), right = T(10 * (k + 1) + i);
+                    const T onDiagonal = o == 0 ? left : o == 1 ? right : left * right;
+                    values[1 + (k * n + i) * rowStep + j] = i == j ? onDiagonal : T(0);
+                }
+        }
+        if (o < 2)
+            of[o].assign(values.begin(), values.end());
+        else
+            expected = values;
+        arguments = arguments + Arguments{pointer(entries[o]), word(shift * e), word(rowStep * e)};
+    }
+    const std::string name = "tenkMul_" + code + "_" + typeName<T>() + sizeName(n) + "_L";
+    EXPECT_EQ(call(name, arguments + words({2})), tenkOk) << name;
+    EXPECT_EQ(of[2], expected) << name << " with a gap in " << operand;
+}
+TEST(MulMatrix, ListsWithAndWithoutGaps)
+{
+    for (const std::string code : {"mama", "mamaT"})
+        for (const unsigned n : {3U, 4U})
+            for (const unsigned operand : {0U, 1U, 2U, 3U})
+                for (const bool behindRows : {false, true}) {
+                    multipliesInLists<float>(code, n, operand, behindRows);
+                    multipliesInLists<double>(code, n, operand, behindRows);
+                }
+}
+
 TEST(MulMatrix, StridesMayStepBack)
 {
     const float a[] = {3, 4, 1, 2}, b[] = {5, 6, 7, 8};

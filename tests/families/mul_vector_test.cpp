@@ -634,6 +634,68 @@ TEST(MulVector, StridesNeedNoAlignment)
         EXPECT_EQ(d[j], expected[j]);
 }
 
+// Three products, and how many elements lie behind each row of a matrix and behind each object; in a list the
+// latter are added to its entries instead. Matrix k has 1, 2, ... on the diagonal, vector k is 10 (k + 1),
+// 10 (k + 1) + 1, ...; the list entry of object 1 of an operand may be null.
+struct Gaps
+{
+    unsigned row, matrix, vector, product;
+};
+template <typename T>
+void multipliesBetween(const std::string& code, unsigned n, const Gaps& gaps, unsigned nullOperand = 3)
+{
+    constexpr T gap = -9;
+    const unsigned rowStep = n + gaps.row, matrixStep = n * rowStep + gaps.matrix;
+    const unsigned steps[3] = {matrixStep, n + gaps.vector, n + gaps.product};
+    const unsigned shifts[3] = {gaps.matrix, gaps.vector, gaps.product};
+    std::vector<T> of[3]; // matrices, vectors, products; the first element is part of no object
+    for (unsigned o = 0; o < 3; ++o)
+        of[o].assign(1 + 3 * steps[o], gap);
+    std::vector<T> expected(of[2]);
+    for (unsigned k = 0; k < 3; ++k)
+        for (unsigned i = 0; i < n; ++i) {
+            for (unsigned j = 0; j < n; ++j)
+                of[0][1 + k * matrixStep + i * rowStep + j] = i == j ? T(i + 1) : T(0);
+            of[1][1 + k * steps[1] + i] = T(10 * (k + 1) + i);
+            if (nullOperand == 3 || k == 0)
+                expected[1 + k * steps[2] + i] = T((i + 1) * (10 * (k + 1) + i));
+        }
+    for (const bool list : {false, true}) {
+        if (!list && nullOperand != 3)
+            continue;
+        std::fill(of[2].begin(), of[2].end(), gap);
+        T* entries[3][3];
+        Arguments arguments;
+        for (unsigned o = 0; o < 3; ++o) {
+            for (unsigned k = 0; k < 3; ++k)
+                entries[o][k] = o == nullOperand && k == 1 ? nullptr : &of[o][1 + k * steps[o] - shifts[o]];
+            arguments.push_back(list ? pointer(entries[o]) : pointer(&of[o][1]));
+            arguments.push_back(word((list ? shifts : steps)[o] * static_cast<unsigned>(sizeof(T))));
+            if (o == 0)
+                arguments.push_back(word(rowStep * static_cast<unsigned>(sizeof(T))));
+        }
+        arguments.push_back(word(3));
+        const std::string name = "tenkMul_" + code + "_" + typeName<T>() + sizeName(n) + (list ? "_L" : "");
+        EXPECT_EQ(call(name, arguments), nullOperand == 3 ? tenkOk : tenkNullPointerError) << name;
+        EXPECT_EQ(of[2], expected) << name;
+    }
+}
+TEST(MulVector, ArraysWithAndWithoutGaps)
+{
+    for (const std::string code : {"mava", "maTva"})
+        for (const unsigned n : {3U, 4U}) {
+            for (const Gaps& gaps :
+                 {Gaps{0, 0, 0, 0}, Gaps{1, 0, 0, 0}, Gaps{0, 1, 0, 0}, Gaps{0, 0, 1, 0}, Gaps{0, 0, 0, 1}}) {
+                multipliesBetween<float>(code, n, gaps);
+                multipliesBetween<double>(code, n, gaps);
+            }
+            for (const unsigned nullOperand : {0U, 1U, 2U}) {
+                multipliesBetween<float>(code, n, {}, nullOperand);
+                multipliesBetween<double>(code, n, {}, nullOperand);
+            }
+        }
+}
+
 TEST(MulVector, InfinitiesAndNotANumbersPassThrough)
 {
     const float inf = std::numeric_limits<float>::infinity();
