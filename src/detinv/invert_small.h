@@ -29,7 +29,7 @@ consteval bool isPacked(Member m)
 consteval bool knowsGaplessMatrices(Member m)
 {
     return m.batch() && isPacked(m) && m.size == 4 &&
-           (registersAreFew ? m.type == Type::f64 : isList(m.layout));
+           (fewRegisters ? m.type == Type::f64 : isList(m.layout));
 }
 
 template <Member m, typename View>

@@ -74,7 +74,7 @@ TENK_INLINE bool invertBlock(Block<double, 3>& a)
 // the stack and come back from there.
 TENK_INLINE void readAgainIfRegistersAreFew()
 {
-    if constexpr (registersAreFew)
+    if constexpr (fewRegisters)
         asm volatile("" ::: "memory");
 }
 
@@ -280,7 +280,7 @@ struct Packed<double, 4>
     template <typename From, typename To>
     TENK_INLINE static bool invert(const From& from, const To& to)
     {
-        if constexpr (!registersAreFew) {
+        if constexpr (!fewRegisters) {
             auto a = Block<double, 4>::load(from);
             if (!invertBlock(a))
                 return false;

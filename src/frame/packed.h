@@ -6,9 +6,6 @@
 
 namespace tenk {
 
-// Eight vector registers, and seven for addresses.
-inline constexpr bool registersAreFew = sizeof(void*) == 4;
-
 // Whether `rows` dense rows of n elements follow each other without a gap, and the objects do, too, unless
 // there is only one, or each is in a list: then nothing is added to the list's entries.
 template <unsigned n, unsigned rows = n, typename O>

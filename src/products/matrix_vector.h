@@ -27,7 +27,7 @@ consteval bool testsUntransposedEntry(Member m)
 consteval bool knowsGapless(Member m)
 {
     return knowsPacked(m) && m.operand[0].array && m.operand[1].array &&
-           (isList(m.layout) || registersAreFew);
+           (isList(m.layout) || fewRegisters);
 }
 
 // Any size and layout, one object.
