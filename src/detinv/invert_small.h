@@ -28,8 +28,7 @@ consteval bool isPacked(Member m)
 // where it is the faster one. The steps of Standard layout are in registers anyhow if there are sixteen.
 consteval bool knowsGaplessMatrices(Member m)
 {
-    return m.batch() && isPacked(m) && m.size == 4 &&
-           (fewRegisters ? m.type == Type::f64 : isList(m.layout));
+    return m.batch() && isPacked(m) && m.size == 4 && (fewRegisters ? m.type == Type::f64 : isList(m.layout));
 }
 
 template <Member m, typename View>

@@ -26,8 +26,7 @@ consteval bool testsUntransposedEntry(Member m)
 // Members with a loop of their own for operands without gaps: where it is the faster one.
 consteval bool knowsGapless(Member m)
 {
-    return knowsPacked(m) && m.operand[0].array && m.operand[1].array &&
-           (isList(m.layout) || fewRegisters);
+    return knowsPacked(m) && m.operand[0].array && m.operand[1].array && (isList(m.layout) || fewRegisters);
 }
 
 // Any size and layout, one object.
