@@ -6,6 +6,7 @@
 #pragma once
 
 #include "frame/groups.h"
+#include "frame/lists.h"
 
 namespace tenk {
 
@@ -289,35 +290,54 @@ struct LUSolveGroups
     }
 
     // Whether nothing could tell that the objects from k on are read before the results from object `written`
-    // on are written. Those of a list have to lie in ascending order, with nothing in between that is read.
+    // on are written.
     template <bool inOrder>
     TENK_INLINE bool mayReadAhead(std::size_t k, std::size_t written) const
     {
-        if (!shortSteps() || !areThere(k))
+        if (count - k < objects || !shortSteps())
             return false;
         if constexpr (Destination<m>::list) {
-            const Address first = dst.object(written, n).start;
-            Address behind = k == written ? first : dst.object(k - 1, n).start + results.length;
-            // In loops, since the addresses of all of them at once would fill the registers.
-            for (std::size_t g = k; g < k + objects; ++g) {
-                const Address start = dst.object(g, n).start;
-                if (start - behind > Address{results.nearby})
-                    return false;
-                behind = start + results.length;
-            }
-            const Bytes all{first, behind - first};
-            const auto areApart = [&](const auto& o, const auto& span) TENK_LAMBDA {
-                for (std::size_t g = k; g < k + span.size; ++g)
-                    if (!tenk::apart(all, {o.object(g, n).start + span.offset, span.length}))
-                        return false;
-                return true;
-            };
-            if (!areApart(src1, matrices) || !areApart(src2, rightSides))
+            if (!listsAllowReadingAhead(k, written))
                 return false;
         } else if (!apart) {
             return false;
         }
         return haveRows<inOrder>(k);
+    }
+
+    // In lists the results have to lie in ascending order, with nothing in between that is read. A list is
+    // looked at when those before it have no null entry, and at once where its entries lie on one page, which
+    // is read in any case.
+    TENK_INLINE bool listsAllowReadingAhead(std::size_t k, std::size_t written) const
+    {
+        using Group = Entries<objects>;
+        const auto entries = [&](const auto& o, std::size_t first)
+                                 TENK_LAMBDA { return Group::load(o.p + first * sizeof(Address)); };
+        const auto anyNull = [&](const auto& o) TENK_LAMBDA {
+            return o.list && entries(o, k).any([](auto entry) TENK_LAMBDA { return areNull(entry); });
+        };
+        const bool onePage = entriesOnOnePage<objects>(src1, k) && entriesOnOnePage<objects>(src2, k) &&
+                             entriesOnOnePage<objects>(dst, k);
+        if (onePage ? anyNull(src1) || anyNull(src2) || anyNull(dst) : !areThere(k))
+            return false;
+
+        const Group those = entries(dst, k);
+        const auto isNotBehind = [&](auto entry, auto last) TENK_LAMBDA {
+            return areNotBehind(entry, last, results.length, Address{results.nearby});
+        };
+        if (those.any(isNotBehind, k == written ? those.inFront(results.length) : entries(dst, k - 1)))
+            return false;
+        const Address first = dst.object(written, n).start;
+        const Bytes all{first, dst.object(k + objects - 1, n).start + results.length - first};
+        const auto meetsAll = [&](const auto& o, const auto& span) TENK_LAMBDA {
+            const Address offset = static_cast<Address>(o.shift) + span.offset;
+            if constexpr (std::remove_cvref_t<decltype(o)>::list)
+                return entries(o, k).any(
+                    [&](auto entry) TENK_LAMBDA { return areNotApart(entry + offset, span.length, all); });
+            else
+                return !tenk::apart(all, {o.p + span.offset, span.length});
+        };
+        return !meetsAll(src1, matrices) && !meetsAll(src2, rightSides);
     }
 
     // The same, but while groups are solved the next ones are loaded.
