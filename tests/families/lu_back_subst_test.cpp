@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <sys/mman.h>
 
 #include "families/factors.h"
 #include "tenk/lu_decomp.h"
@@ -521,6 +522,63 @@ TYPED_TEST(LUBackSubst, ANullEntryOfAListFailsWhenItsObjectIsReached)
                 }
             }
     });
+}
+
+TYPED_TEST(LUBackSubst, ListsAreReadUpToTheFirstNullEntryWhereverThePagesEnd)
+{
+    // With the identity x = b. One of the lists has a null entry, and lies somewhere on two pages: it begins
+    // with the first, or ends with the second by its null entry, or runs over from one to the other. The
+    // pages around them cannot be read.
+    using T = TypeParam;
+    constexpr std::size_t page = 4096, count = 27;
+    constexpr std::uint32_t row = 4 * sizeof(T);
+    auto* const memory = static_cast<char*>(
+        mmap(nullptr, 4 * page, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
+    ASSERT_NE(static_cast<void*>(memory), MAP_FAILED);
+    ASSERT_EQ(mprotect(memory, page, PROT_NONE), 0);
+    ASSERT_EQ(mprotect(memory + 3 * page, page, PROT_NONE), 0);
+
+    std::vector<T> identity(16), b(4 * count), x(4 * count);
+    for (std::size_t i = 0; i < 4; ++i)
+        identity[5 * i] = 1;
+    std::iota(b.begin(), b.end(), T{1});
+    std::uint32_t rows[4 * count];
+    for (std::size_t e = 0; e < 4 * count; ++e)
+        rows[e] = static_cast<std::uint32_t>(e % 4);
+
+    for (int which : {0, 1, 2})
+        for (std::size_t bad = 0; bad < count; ++bad)
+            for (std::size_t before = 0; before <= bad + 2; ++before) {
+                std::vector<T*> lists[3];
+                for (std::size_t k = 0; k < count; ++k) {
+                    lists[0].push_back(identity.data());
+                    lists[1].push_back(&b[4 * k]);
+                    lists[2].push_back(&x[4 * k]);
+                }
+                const bool atTheEnd = before == bad + 1, atTheBeginning = before == bad + 2;
+                auto** const boundary = reinterpret_cast<T**>(memory + (atTheEnd         ? 3
+                                                                        : atTheBeginning ? 1
+                                                                                         : 2) *
+                                                                           page);
+                auto** const list = atTheBeginning ? boundary : boundary - before;
+                std::copy(lists[which].begin(), lists[which].begin() + (atTheEnd ? bad + 1 : count), list);
+                list[bad] = nullptr;
+                T** const at[3] = {which == 0 ? list : lists[0].data(), which == 1 ? list : lists[1].data(),
+                                   which == 2 ? list : lists[2].data()};
+                std::fill(x.begin(), x.end(), T{});
+                const std::vector<T> solved(b.begin(), b.begin() + static_cast<long>(4 * bad));
+                tenkStatus status;
+                if constexpr (sizeof(T) == 4)
+                    status = tenkLUBackSubst_mava_32f_4x4_L(at[0], 0, row, rows, at[1], 0, at[2], 0, count);
+                else
+                    status = tenkLUBackSubst_mava_64f_4x4_L(at[0], 0, row, rows, at[1], 0, at[2], 0, count);
+                ASSERT_EQ(status, tenkNullPointerError) << which << " " << bad << " " << before;
+                ASSERT_EQ(std::vector<T>(x.begin(), x.begin() + static_cast<long>(4 * bad)), solved);
+                ASSERT_TRUE(
+                    std::all_of(x.begin() + static_cast<long>(4 * bad), x.end(), [](T e) { return e == 0; }))
+                    << which << " " << bad << " " << before;
+            }
+    munmap(memory, 4 * page);
 }
 
 TYPED_TEST(LUBackSubst, EntriesOfRowIndexAreUsedAsTheyStand)
