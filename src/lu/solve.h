@@ -107,10 +107,12 @@ consteval bool luSolvesSideBySide(Member m)
     return m.batch() && !m.general() && isDense(m.layout);
 }
 
-// Groups that take turns: in a solution almost every operation waits for the one before.
+// Groups that take turns: in a solution almost every operation waits for the one before. Four of them want
+// small systems, and the registers for their factors.
 consteval unsigned luSolveTurns(Member m)
 {
-    return m.type == Type::f32 ? 2 : 1;
+    const bool oneFactor = !m.operand[0].array;
+    return m.type == Type::f64 ? 1 : m.size <= 4 && (oneFactor || !fewRegisters) ? 4 : 2;
 }
 
 // Calls meanwhile(i) for each position i on the way: work that does not have to wait.

@@ -152,7 +152,7 @@ void eachCall(F f)
                 f(call);
             }
             for (Code code : {Code::mva, Code::mava})
-                for (std::size_t count : {1, 4, 11}) {
+                for (std::size_t count : {1, 4, 11, 37}) {
                     Call<T> call(code, s.fixed, form, s.width, count);
                     f(call);
                 }
@@ -530,7 +530,7 @@ TYPED_TEST(LUBackSubst, ListsAreReadUpToTheFirstNullEntryWhereverThePagesEnd)
     // with the first, or ends with the second by its null entry, or runs over from one to the other. The
     // pages around them cannot be read.
     using T = TypeParam;
-    constexpr std::size_t page = 4096, count = 27;
+    constexpr std::size_t page = 4096, count = 37;
     constexpr std::uint32_t row = 4 * sizeof(T);
     auto* const memory = static_cast<char*>(
         mmap(nullptr, 4 * page, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
@@ -608,8 +608,8 @@ TYPED_TEST(LUBackSubst, RowsInOrderButThoseOfOneObject)
     std::mt19937 random(17);
     for (unsigned n = 3; n <= 6; ++n)
         for (Form form : {Form::standard, Form::list})
-            for (std::size_t count : {1U, 4U, 8U, 9U, 16U, 21U})
-                for (std::size_t other : {0U, 2U, 7U, 8U, 15U, 20U, 21U}) {
+            for (std::size_t count : {1U, 4U, 8U, 9U, 16U, 21U, 37U})
+                for (std::size_t other : {0U, 2U, 7U, 8U, 15U, 20U, 31U, 37U}) {
                     if (other > count)
                         continue;
                     Call<T> call(Code::mava, n, form, n, count);
@@ -744,13 +744,13 @@ TYPED_TEST(LUBackSubst, AResultIsReadByALaterObject)
     // With the identity x = b. The result of an object is the right-hand side of the one that comes some
     // objects later, so that the first right-hand sides come again and again.
     using T = TypeParam;
-    constexpr std::size_t count = 24;
+    constexpr std::size_t count = 48;
     constexpr std::uint32_t row = 3 * sizeof(T);
     const T identity[9] = {1, 0, 0, 0, 1, 0, 0, 0, 1};
     std::uint32_t rows[3 * count];
     for (std::size_t e = 0; e < 3 * count; ++e)
         rows[e] = static_cast<std::uint32_t>(e % 3);
-    for (std::size_t later : {1, 2, 3, 5, 8, 9, 15, 16})
+    for (std::size_t later : {1, 2, 3, 5, 8, 9, 15, 16, 17, 31, 32})
         for (int member = 0; member < 4; ++member) {
             std::vector<T> memory(3 * (count + later), 7);
             for (std::size_t e = 0; e < 3 * later; ++e)
@@ -790,7 +790,7 @@ TYPED_TEST(LUBackSubst, TheOneFactorIsReadAgainAfterAResultHasChangedIt)
     // The result of object 0 is row 0 of the identity: y = (2, 3, 0) and x = ((2 - (3 x 3 + 0)) / 2, 3, 0)
     // there. The others are solved with that row: x[0] = (3 k + 7 - 3 k) / (-7/2).
     using T = TypeParam;
-    constexpr std::size_t count = 20;
+    constexpr std::size_t count = 40;
     constexpr std::uint32_t row = 3 * sizeof(T);
     const std::uint32_t rows[3] = {0, 1, 2};
     std::vector<T> b = {2, 3, 0};
