@@ -73,8 +73,11 @@ private:
             arguments_[sizes[random_.below(static_cast<std::uint32_t>(sizes.size()))]] = 0;
         if (manners_.signedSizes && random_.chance(5))
             arguments_[random_.pick({"width", "height"})] = random_.pick({0xFFFFFFFFu, 0x80000000u});
+        // Batches of fixed size are worked on in groups, and some read ahead of what they write.
+        const bool longBatch = !name_.general() && random_.chance(8);
         count_ = random_.chance(5)    ? 0
                  : random_.chance(15) ? 1
+                 : longBatch          ? 10 + random_.below(31)
                  : random_.chance(70) ? 2 + random_.below(4)
                                       : 6 + random_.below(4);
         if (large)
@@ -222,6 +225,7 @@ private:
         if (drawn.has("rowIndex") && drawn.pointer("rowIndex") != 0) {
             const std::uint32_t order = drawn.size("order");
             Address place = drawn.pointer("rowIndex");
+            rowsInOrder_ = random_.chance(25);
             for (std::uint32_t k = 0; k < std::max(count_, 1u); ++k) {
                 for (const std::uint32_t row : drawRows(order)) {
                     put(place, row, 4);
@@ -241,7 +245,7 @@ private:
         std::vector<std::uint32_t> rows(order);
         for (std::uint32_t i = 0; i < order; ++i)
             rows[i] = i;
-        if (random_.chance(20))
+        if (rowsInOrder_ ? random_.chance(98) : random_.chance(20))
             return rows;
         for (std::uint32_t i = 1; i < order; ++i)
             std::swap(rows[i], rows[random_.below(i + 1)]);
@@ -279,6 +283,7 @@ private:
     Taste taste_;
     bool plain_ = false;
     std::uint32_t count_ = 1;
+    bool rowsInOrder_ = false; // of almost all objects
     Arguments arguments_;
 };
 
