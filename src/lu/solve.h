@@ -108,11 +108,11 @@ consteval bool luSolvesSideBySide(Member m)
 }
 
 // Groups that take turns: in a solution almost every operation waits for the one before. Four of them want
-// small systems, and the registers for their factors.
+// one factor for all, and a small one: they have to find registers.
 consteval unsigned luSolveTurns(Member m)
 {
     const bool oneFactor = !m.operand[0].array;
-    return m.type == Type::f64 ? 1 : m.size <= 4 && (oneFactor || !fewRegisters) ? 4 : 2;
+    return m.type == Type::f64 ? 1 : oneFactor && m.size <= 4 ? 4 : 2;
 }
 
 // Calls meanwhile(i) for each position i on the way: work that does not have to wait.
