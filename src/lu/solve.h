@@ -112,7 +112,7 @@ consteval bool luSolvesSideBySide(Member m)
 consteval unsigned luSolveTurns(Member m)
 {
     const bool oneFactor = !m.operand[0].array;
-    return m.type == Type::f64 ? 1 : oneFactor && m.size <= 4 ? 4 : 2;
+    return m.type == Type::f32 && m.size <= 4 && oneFactor ? 4 : 2;
 }
 
 // Calls meanwhile(i) for each position i on the way: work that does not have to wait.
