@@ -49,23 +49,19 @@ TENK_INLINE AddressVector areNotApart(AddressVector starts, Address length, cons
         return reinterpret_cast<AddressVector>(distance > 0 - other.length - length);
 }
 
-// The entries of some objects that follow each other in a list; fewer than a vector has lanes stand twice.
+// The entries of some objects that follow each other in a list.
 template <unsigned objects>
 struct Entries
 {
     static constexpr unsigned lanes = 16 / sizeof(Address);
-    static constexpr unsigned vectors = objects < lanes ? 1 : objects / lanes;
+    static constexpr unsigned vectors = objects / lanes;
+    static_assert(objects % lanes == 0);
     AddressVector vector[vectors];
 
     TENK_INLINE static Entries load(Address first)
     {
         Entries e;
-        if constexpr (objects < lanes)
-            e.vector[0] = reinterpret_cast<AddressVector>(
-                _mm_set1_epi64x(static_cast<long long>(tenk::load<std::uint64_t>(first))));
-        else
-            each<vectors>([&](auto v)
-                              TENK_LAMBDA { e.vector[v] = tenk::load<AddressVector>(first + v * 16); });
+        each<vectors>([&](auto v) TENK_LAMBDA { e.vector[v] = tenk::load<AddressVector>(first + v * 16); });
         return e;
     }
 
@@ -73,10 +69,10 @@ struct Entries
     TENK_INLINE Entries inFront(Address length) const
     {
         Entries e;
-        Address last = 0;
+        Address last = vector[0][0] - length;
         for (unsigned v = 0; v < vectors; ++v)
             for (unsigned lane = 0; lane < lanes; ++lane) {
-                e.vector[v][lane] = (v * lanes + lane) % objects == 0 ? vector[0][0] - length : last;
+                e.vector[v][lane] = last;
                 last = vector[v][lane];
             }
         return e;
