@@ -1,4 +1,4 @@
-// Runs of bytes, and whether two of them have one in common.
+// Runs of bytes, whether two of them have one in common, and pages.
 #pragma once
 
 #include "frame/memory.h"
@@ -15,6 +15,14 @@ struct Bytes
 TENK_INLINE bool apart(const Bytes& a, const Bytes& b)
 {
     return b.first - a.first - a.length <= 0 - a.length - b.length;
+}
+
+// Memory is readable by whole pages.
+inline constexpr Address page = 4096;
+
+TENK_INLINE bool onOnePage(Address a, Address b)
+{
+    return (a ^ b) < page;
 }
 
 } // namespace tenk

@@ -27,14 +27,6 @@ TENK_INLINE bool rowsApart(Displacement rowStep, std::size_t n)
     return rowStep >= row || rowStep <= -row;
 }
 
-// Memory is readable by whole pages.
-inline constexpr Address page = 4096;
-
-TENK_INLINE bool onOnePage(Address a, Address b)
-{
-    return (a ^ b) < page;
-}
-
 // The memory of the objects of one operand, each of them n adjacent elements in some rows: what is the same
 // for the whole call.
 template <typename O, unsigned rows, unsigned n, unsigned objects = group<typename O::Value>>

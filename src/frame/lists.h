@@ -21,32 +21,57 @@ TENK_INLINE bool any(AddressVector answers)
         return _mm_movemask_ps(reinterpret_cast<__m128>(answers)) != 0;
 }
 
-TENK_INLINE AddressVector areNull(AddressVector entries)
-{
-    if constexpr (sizeof(Address) == 8)
-        return entries - 1;
-    else
-        return reinterpret_cast<AddressVector>(entries == 0);
-}
-
-// Addresses that are not at least `length` behind others, or too far.
+// Addresses that are null, not at least `length` behind others, or too far.
 TENK_INLINE AddressVector areNotBehind(AddressVector a, AddressVector others, Address length, Address nearby)
 {
     const AddressVector distance = a - others - length;
     if constexpr (sizeof(Address) == 8)
-        return distance;
+        return distance | (a - 1);
     else
-        return reinterpret_cast<AddressVector>(distance > nearby);
+        return reinterpret_cast<AddressVector>((distance > nearby) | (a == 0));
 }
 
-// Runs of `length` bytes that are not apart from all of a longer one.
-TENK_INLINE AddressVector areNotApart(AddressVector starts, Address length, const Bytes& other)
+// The numbers from `first` to `first + span`.
+struct Range
 {
-    const AddressVector distance = starts - (other.first + other.length);
+    Address first, span;
+};
+TENK_INLINE AddressVector areOutside(AddressVector a, const Range& range)
+{
+    const AddressVector distance = a - range.first;
     if constexpr (sizeof(Address) == 8)
-        return distance & (other.first - length - starts);
+        return distance | (range.span - distance);
     else
-        return reinterpret_cast<AddressVector>(distance > 0 - other.length - length);
+        return reinterpret_cast<AddressVector>(distance > range.span);
+}
+
+// The entries, but for null, of objects that lie on the same side of other bytes as that of `entry`, which is
+// not null; false if this one lies on no side. An object takes `length` bytes from its entry + `offset` on.
+TENK_INLINE bool besides(const Bytes& others, Address offset, Address length, Address entry, Range& range)
+{
+    constexpr Address top = sizeof(Address) == 8 ? ~Address{} / 2 : ~Address{};
+    const Address start = entry + offset, end = others.first + others.length;
+    const bool below = start < others.first && others.first - start >= length;
+    const bool above = start >= end && end >= others.first && start <= top && top - start >= length - 1;
+    if (!below && !above)
+        return false;
+    const Address from = below ? 0 : end, to = below ? others.first - length : top - (length - 1);
+    range = {from - offset, to - from};
+    const Address null = 0 - range.first; // where it lies in the range
+    if (null <= range.span) {
+        if (entry - range.first > null)
+            range = {1, range.span - null - 1};
+        else
+            range.span = null - 1;
+    }
+    return true;
+}
+
+// The end of the entries that lie on the page where entry e ends, and are as readable as that one.
+TENK_INLINE std::size_t endOfPage(Address list, std::size_t e)
+{
+    const Address next = list + (e + 1) * sizeof(Address);
+    return e + 1 + (0 - next) % page / sizeof(Address);
 }
 
 // The entries of some objects that follow each other in a list.
