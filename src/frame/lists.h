@@ -52,8 +52,8 @@ TENK_INLINE bool besides(const Bytes& others, Address offset, Address length, Ad
     constexpr Address top = sizeof(Address) == 8 ? ~Address{} / 2 : ~Address{};
     const Address start = entry + offset, end = others.first + others.length;
     const bool below = start < others.first && others.first - start >= length;
-    const bool above = start >= end && end >= others.first && start <= top && top - start >= length - 1;
-    if (!below && !above)
+    const bool above = start >= end && start <= top && top - start >= length - 1;
+    if (end < others.first || (!below && !above))
         return false;
     const Address from = below ? 0 : end, to = below ? others.first - length : top - (length - 1);
     range = {from - offset, to - from};
@@ -103,14 +103,14 @@ struct Entries
         return e;
     }
 
-    // Whether a test of the entries, with those of `others` in the same places, has an answer yes.
+    // The answers to a test of the entries, with those of `others` in the same places, taken together.
     template <typename F, typename... E>
-    TENK_INLINE bool any(F test, const E&... others) const
+    TENK_INLINE AddressVector test(F test, const E&... others) const
     {
         AddressVector answers = test(vector[0], others.vector[0]...);
         each<vectors - 1>([&](auto v)
                               TENK_LAMBDA { answers |= test(vector[v + 1], others.vector[v + 1]...); });
-        return tenk::any(answers);
+        return answers;
     }
 };
 

@@ -84,6 +84,17 @@ TENK_INLINE V inRegister(V v)
     asm("" : "+x"(v));
     return v;
 }
+TENK_INLINE Address inRegister(Address a)
+{
+    asm("" : "+r"(a));
+    return a;
+}
+// An object that the compiler is not to keep in registers, parts of which it would move to memory and back.
+template <typename O>
+TENK_INLINE void keepInMemory(O& o)
+{
+    asm("" : "+m"(o));
+}
 
 template <typename T>
 TENK_INLINE Vector<T> broadcast(T x)

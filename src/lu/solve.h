@@ -47,12 +47,10 @@ TENK_INLINE tenkStatus luBackSubst(Source<m, 0> src1, const std::uint32_t* rowIn
         return tenkNullPointerError;
 
     const auto rows = reinterpret_cast<Address>(rowIndex);
-    for (std::size_t k = 0; k < count; ++k) {
-        if constexpr (luSolvesSideBySide(m)) {
-            k = luSolveInTurns<m>(src1, rows, src2, dst, k, count);
-            if (k == count)
-                break;
-        }
+    std::size_t k = 0;
+    if constexpr (luSolvesSideBySide(m))
+        k = luSolveInTurns<m>(src1, rows, src2, dst, count);
+    for (; k < count; ++k) {
         if (anyNullObject(k, src1, src2, dst))
             return tenkNullPointerError;
         const Address indexOfObject = m.operand[0].array ? rows + k * order * sizeof(std::uint32_t) : rows;

@@ -208,6 +208,22 @@ struct LUSolveGroups
         return k;
     }
 
+    // The end of the groups from object k on of which nothing lies where one of their results does, or one
+    // from object `written` on: so that nothing tells when they are read.
+    template <Rows rows>
+    TENK_INLINE std::size_t endOfReadable(std::size_t k, std::size_t written) const
+    {
+        constexpr std::size_t most = 256; // rowIndex and lists should still be near when they are read again
+        const std::size_t end = count - k < most ? count : k + most;
+        if (!areThere(k) || !haveRows<rows>(k))
+            return k;
+        if constexpr (Destination<m>::list)
+            return endOfReadableLists<rows>(k, written, end);
+        else
+            return apart
+                       ? passing(k, end, [&](std::size_t first) TENK_LAMBDA { return haveRows<rows>(first); })
+                       : k;
+    }
     // The end of the groups from object k on that pass a test.
     template <typename F>
     TENK_INLINE static std::size_t passing(std::size_t k, std::size_t end, F test)
@@ -217,29 +233,11 @@ struct LUSolveGroups
         return k;
     }
 
-    // The end of the groups from object k on of which nothing lies where one of their results does, or one
-    // from object `written` on: so that nothing tells when they are read.
+    // In lists the results have to lie in ascending order, and all that is read of a list on one side of
+    // them. Behind the entries of the first group, those on the same pages are readable as well.
     template <Rows rows>
-    TENK_INLINE std::size_t endOfReadable(std::size_t k, std::size_t written) const
-    {
-        constexpr std::size_t most = 256; // rowIndex and lists should still be near when they are read again
-        std::size_t end = count - k < most ? count : k + most;
-        if (!areThere(k) || !haveRows<rows>(k))
-            return k;
-        if constexpr (Destination<m>::list)
-            end = endOfReadableLists(k, written, end);
-        else if (!apart)
-            return k;
-        return passing(k, end, [&](std::size_t first) TENK_LAMBDA { return haveRows<rows>(first); });
-    }
-
-    // In lists the results have to lie in ascending order, and all that is read on one side of them. Behind
-    // the entries of the first group, those on the same page are readable as well.
     TENK_INLINE std::size_t endOfReadableLists(std::size_t k, std::size_t written, std::size_t end) const
     {
-        using Group = Entries<objects>;
-        const auto entries = [&](const auto& o, std::size_t first)
-                                 TENK_LAMBDA { return Group::load(o.p + first * sizeof(Address)); };
         const auto onPage = [&](const auto& o) TENK_LAMBDA {
             const std::size_t endOnPage = endOfPage(o.p, k + objects - 1);
             end = o.list && endOnPage < end ? endOnPage : end;
@@ -248,37 +246,42 @@ struct LUSolveGroups
         onPage(src2);
         onPage(dst);
 
-        const std::size_t begin = k;
+        const Address low = dst.object(written, n).start, high = dst.object(end - 1, n).start;
+        const Bytes all{low, high - low + results.length};
+        const auto besidesAll = [&](const auto& o, const auto& span, Range& range) TENK_LAMBDA {
+            if constexpr (std::remove_cvref_t<decltype(o)>::list)
+                return besides(all, static_cast<Address>(o.shift) + span.offset, span.length, o.entry(k),
+                               range);
+            else
+                return tenk::apart(all, {o.p + span.offset, span.length});
+        };
+        Range ofMatrices{}, ofRightSides{};
+        if (high < low || !besidesAll(src1, matrices, ofMatrices) ||
+            !besidesAll(src2, rightSides, ofRightSides))
+            return k;
+
+        const auto entries = [&](const auto& o, std::size_t first) TENK_LAMBDA {
+            return Entries<objects>::load(o.p + first * sizeof(Address));
+        };
         constexpr Address nearby = 1 << 22; // that of all does not come round
         const auto isNotBehind = [&](auto entry, auto last) TENK_LAMBDA {
             return areNotBehind(entry, last, results.length, nearby);
         };
-        end = passing(begin, end, [&](std::size_t first) TENK_LAMBDA {
-            const Group those = entries(dst, first);
-            return !those.any(isNotBehind,
-                              first == written ? those.inFront(results.length) : entries(dst, first - 1));
+        const std::size_t readable = passing(k, end, [&](std::size_t first) TENK_LAMBDA {
+            const auto those = entries(dst, first);
+            auto answers = those.test(isNotBehind, first == written ? those.inFront(results.length)
+                                                                    : entries(dst, first - 1));
+            const auto areBeside = [&](const auto& o, const Range& range) TENK_LAMBDA {
+                if constexpr (std::remove_cvref_t<decltype(o)>::list)
+                    answers |= entries(o, first).test([&](auto entry)
+                                                          TENK_LAMBDA { return areOutside(entry, range); });
+            };
+            areBeside(src1, ofMatrices);
+            areBeside(src2, ofRightSides);
+            return !any(answers) && haveRows<rows>(first);
         });
-        if (end == begin)
-            return begin;
-
-        const Address low = dst.object(written, n).start;
-        const Bytes all{low, dst.object(end - 1, n).start + results.length - low};
-        const auto besidesAll = [&](const auto& o, const auto& span) TENK_LAMBDA {
-            if constexpr (std::remove_cvref_t<decltype(o)>::list) {
-                Range range;
-                if (!besides(all, static_cast<Address>(o.shift) + span.offset, span.length, o.entry(begin),
-                             range))
-                    return begin;
-                return passing(begin, end, [&](std::size_t first) TENK_LAMBDA {
-                    return !entries(o, first).any([&](auto entry)
-                                                      TENK_LAMBDA { return areOutside(entry, range); });
-                });
-            } else {
-                return tenk::apart(all, {o.p + span.offset, span.length}) ? end : begin;
-            }
-        };
-        end = besidesAll(src1, matrices);
-        return besidesAll(src2, rightSides);
+        const bool amongAll = readable > k && dst.object(readable - 1, n).start - low <= high - low;
+        return amongAll ? readable : k;
     }
 
     // From object k on, as long as that is so; while groups are solved the next ones are loaded.
@@ -298,6 +301,8 @@ struct LUSolveGroups
                 end = endOfReadable<rows>(next, k);
             if (next == end)
                 break;
+            if constexpr (fewRegisters)
+                keepInMemory(systems);
             solve(k, systems, [&](auto i) TENK_LAMBDA { load<rows>(next, i, systems); });
         }
         solve(k, systems, [](auto) TENK_LAMBDA {});
@@ -305,12 +310,13 @@ struct LUSolveGroups
     }
 };
 
-// Objects from k on, as many as can be side by side. The object that is next.
+// The objects at the beginning of a batch that can be solved side by side. Returns how many.
 template <Member m>
 TENK_INLINE std::size_t luSolveInTurns(const Source<m, 0>& src1, Address rowIndex, const Source<m, 1>& src2,
-                                       const Destination<m>& dst, std::size_t k, std::size_t count)
+                                       const Destination<m>& dst, std::size_t count)
 {
     LUSolveGroups<m, luSolveTurns(m)> inTurns(src1, rowIndex, src2, dst, count);
+    std::size_t k = 0;
     if constexpr (m.operand[0].array) {
         k = inTurns.template readingAhead<Rows::plain>(k);
         k = inTurns.template readingAhead<Rows::gapless>(k);
