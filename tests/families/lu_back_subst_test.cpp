@@ -787,6 +787,239 @@ TYPED_TEST(LUBackSubst, AResultIsReadByALaterObject)
         }
 }
 
+// With the identity of order 3 x = b, element after element: copies within one memory, by lists of the
+// elements where right-hand sides and results begin.
+template <typename T>
+void expectCopies(const std::vector<std::size_t>& from, const std::vector<std::size_t>& to, const char* what)
+{
+    const std::size_t count = to.size();
+    std::vector<T> memory(
+        std::max(*std::max_element(from.begin(), from.end()), *std::max_element(to.begin(), to.end())) + 3);
+    std::iota(memory.begin(), memory.end(), T{1});
+    std::vector<T> expected = memory;
+    for (std::size_t k = 0; k < count; ++k)
+        for (std::size_t i = 0; i < 3; ++i)
+            expected[to[k] + i] = expected[from[k] + i];
+
+    const T identity[9] = {1, 0, 0, 0, 1, 0, 0, 0, 1};
+    const std::vector<T> start = memory;
+    const std::vector<const T*> factors(count, identity);
+    std::vector<const T*> src2;
+    std::vector<T*> dst;
+    std::vector<std::uint32_t> rows;
+    for (std::size_t k = 0; k < count; ++k) {
+        src2.push_back(&memory[from[k]]);
+        dst.push_back(&memory[to[k]]);
+        for (std::uint32_t row : {0U, 1U, 2U})
+            rows.push_back(row);
+    }
+    const auto words = static_cast<std::uint32_t>(count);
+    if constexpr (sizeof(T) == 4) {
+        ASSERT_EQ(tenkLUBackSubst_mva_32f_3x3_L(identity, 0, 12, &rows[0], &src2[0], 0, &dst[0], 0, words),
+                  tenkOk);
+        EXPECT_TRUE(same(memory, expected)) << what << ", one factor";
+        memory = start;
+        ASSERT_EQ(
+            tenkLUBackSubst_mava_32f_3x3_L(&factors[0], 0, 12, &rows[0], &src2[0], 0, &dst[0], 0, words),
+            tenkOk);
+    } else {
+        ASSERT_EQ(
+            tenkLUBackSubst_mava_64f_3x3_L(&factors[0], 0, 24, &rows[0], &src2[0], 0, &dst[0], 0, words),
+            tenkOk);
+    }
+    EXPECT_TRUE(same(memory, expected)) << what;
+}
+
+// Elements 3 apart from `first` on.
+std::vector<std::size_t> inARow(std::size_t count, std::size_t first)
+{
+    std::vector<std::size_t> elements;
+    for (std::size_t k = 0; k < count; ++k)
+        elements.push_back(first + 3 * k);
+    return elements;
+}
+
+TYPED_TEST(LUBackSubst, ResultsOfListsAreReadByLaterObjectsWhereverTheyLie)
+{
+    using T = TypeParam;
+    for (std::size_t count : {17U, 33U, 40U}) {
+        const auto results = inARow(count, 300);
+        const auto below = inARow(count, 30), above = inARow(count, 600);
+        for (const auto& elsewhere : {below, above}) {
+            expectCopies<T>(elsewhere, results, "nothing");
+            for (std::size_t reader = 1; reader < count; ++reader)
+                for (std::size_t back : {1U, 2U, 7U, 9U}) {
+                    if (back > reader)
+                        continue;
+                    auto from = elsewhere;
+                    from[reader] = results[reader - back];
+                    expectCopies<T>(from, results, "a result");
+                    // Its last element is the first of the result, or its first the last.
+                    from[reader] = results[reader - back] - 2;
+                    expectCopies<T>(from, results, "the beginning of a result");
+                    from[reader] = results[reader - back] + 2;
+                    expectCopies<T>(from, results, "the end of a result");
+                }
+        }
+        // All of them read the first element of the first result, which object 0 writes.
+        expectCopies<T>(std::vector<std::size_t>(count, 298), results, "the beginning of all");
+    }
+}
+
+TYPED_TEST(LUBackSubst, ResultsOfListsThatDoNotAscendAreReadByLaterObjects)
+{
+    // The last result lies before the first one, or before others.
+    using T = TypeParam;
+    for (std::size_t count : {9U, 17U, 18U, 33U})
+        for (std::size_t last : {290U, 299U, 303U, 309U})
+            for (std::size_t source : {30U, 600U})
+                for (std::size_t reader = 5; reader < count; ++reader) {
+                    auto from = inARow(count, source), to = inARow(count, 300);
+                    to.back() = last;
+                    from[reader] = to[reader - 3];
+                    expectCopies<T>(from, to, "a result before others");
+                }
+}
+
+TYPED_TEST(LUBackSubst, LongBatchesOfLists)
+{
+    // Lists of 700 objects, longer than what is looked at together: right-hand sides apart from all results,
+    // then those of some objects among the results of the objects before.
+    using T = TypeParam;
+    constexpr std::size_t count = 700;
+    const auto results = inARow(count, 3000), sources = inARow(count, 600);
+    expectCopies<T>(sources, results, "nothing");
+    expectCopies<T>(inARow(count, 6000), results, "nothing");
+    for (std::size_t first = 240; first < 528; ++first) {
+        auto from = sources;
+        for (std::size_t k = first; k < first + 8; ++k)
+            from[k] = results[k - 8];
+        expectCopies<T>(from, results, "the results of the objects before");
+    }
+    // The results of some objects lie in front of all others; they are read by the next ones.
+    for (std::size_t first = 248; first < 272; ++first) {
+        auto from = sources, to = results;
+        to[first] = 2900;
+        from[first + 1] = from[first + 5] = 2900;
+        expectCopies<T>(from, to, "a result in front of all");
+    }
+}
+
+TYPED_TEST(LUBackSubst, LongBatchesExchangedFromAnObjectOn)
+{
+    using T = TypeParam;
+    std::mt19937 random(29);
+    constexpr std::size_t count = 600;
+    for (unsigned n = 3; n <= 6; ++n)
+        for (Form form : {Form::standard, Form::list})
+            for (std::size_t exchanged : {0U, 255U, 256U, 300U, 600U}) {
+                Call<T> call(Code::mava, n, form, n, count);
+                call.fill(random, [&](Rows& rows, std::size_t k) {
+                    if (k >= exchanged)
+                        std::swap(rows[n - 1], rows[random() % n]);
+                });
+                ASSERT_EQ(call.run(), tenkOk);
+                std::vector<std::vector<T>> solutions;
+                for (std::size_t k = 0; k < count; ++k) {
+                    solutions.push_back(solutionOf(call.factorOf(k), call.rowsOf(k), call.src2.object(k)));
+                    ASSERT_TRUE(same(call.dst.object(k), solutions[k]))
+                        << call.name << ", object " << k << ", exchanged from " << exchanged;
+                }
+
+                // The same without gaps between rows or objects.
+                std::vector<T> factors, b, x(n * count);
+                std::vector<const T*> factorList, bList;
+                std::vector<T*> xList;
+                for (std::size_t k = 0; k < count; ++k) {
+                    const auto factor = call.src1.object(k), right = call.src2.object(k);
+                    factors.insert(factors.end(), factor.begin(), factor.end());
+                    b.insert(b.end(), right.begin(), right.end());
+                }
+                for (std::size_t k = 0; k < count; ++k) {
+                    factorList.push_back(&factors[k * n * n]);
+                    bList.push_back(&b[k * n]);
+                    xList.push_back(&x[k * n]);
+                }
+                const auto row = static_cast<std::uint32_t>(n * sizeof(T));
+                const bool list = form == Form::list;
+                Arguments all;
+                addPointer(all, list ? static_cast<void*>(&factorList[0]) : &factors[0]);
+                addWord(all, list ? 0 : n * row);
+                addWord(all, row);
+                addPointer(all, call.rowIndex.data());
+                addPointer(all, list ? static_cast<void*>(&bList[0]) : &b[0]);
+                addWord(all, list ? 0 : row);
+                addPointer(all, list ? static_cast<void*>(&xList[0]) : &x[0]);
+                addWord(all, list ? 0 : row);
+                addWord(all, static_cast<std::uint32_t>(count));
+                ASSERT_EQ(callByName(call.name, all), tenkOk);
+                for (std::size_t k = 0; k < count; ++k)
+                    ASSERT_TRUE(same(std::vector<T>(xList[k], xList[k] + n), solutions[k]))
+                        << call.name << " without gaps, object " << k << ", exchanged from " << exchanged;
+            }
+}
+
+TYPED_TEST(LUBackSubst, ListsMayHoldDistancesFromAShift)
+{
+    // The shift is an address, and the entries of one list are distances from there; the one of 0 is null.
+    using T = TypeParam;
+    constexpr std::size_t page = 4096, count = 24;
+    constexpr std::uint32_t row = 3 * sizeof(T);
+    int flags = MAP_PRIVATE | MAP_ANONYMOUS;
+#ifdef MAP_32BIT
+    flags |= MAP_32BIT;
+#endif
+    auto* const memory = static_cast<T*>(mmap(nullptr, 4 * page, PROT_READ | PROT_WRITE, flags, -1, 0));
+    ASSERT_NE(static_cast<void*>(memory), MAP_FAILED);
+    T *const x = memory, *const b = x + 3 * count + 3, *const identity = b + 3 * count + 3;
+    identity[0] = identity[4] = identity[8] = 1;
+    std::iota(b, b + 3 * count, T{1});
+    std::uint32_t rows[3 * count];
+    for (std::size_t e = 0; e < 3 * count; ++e)
+        rows[e] = static_cast<std::uint32_t>(e % 3);
+
+    for (int which : {0, 1, 2})
+        for (bool backwards : {false, true})
+            for (std::size_t null :
+                 {std::size_t{0}, std::size_t{5}, std::size_t{8}, std::size_t{13}, std::size_t{15}, count}) {
+                T* at[3] = {identity, b, x};
+                std::vector<const T*> lists[3];
+                std::uint32_t shifts[3] = {0, 0, 0};
+                for (std::size_t k = 0; k < count; ++k) {
+                    const std::size_t e = 3 * (which < 2 && backwards ? count - 1 - k : k);
+                    lists[0].push_back(at[0]);
+                    lists[1].push_back(at[1] + e);
+                    lists[2].push_back(at[2] + 3 * k);
+                }
+                // Object `null` is where the shift points to, or none is.
+                const T* const base = null < count ? lists[which][null] : at[which] - 1;
+                shifts[which] = static_cast<std::uint32_t>(reinterpret_cast<std::uintptr_t>(base));
+                for (const T*& entry : lists[which])
+                    entry = reinterpret_cast<const T*>(reinterpret_cast<std::uintptr_t>(entry) -
+                                                       reinterpret_cast<std::uintptr_t>(base));
+                std::fill(x, x + 3 * count, T{});
+                auto** const results = const_cast<T**>(&lists[2][0]);
+                const auto call = [&](auto f) {
+                    return f(&lists[0][0], shifts[0], row, rows, &lists[1][0], shifts[1], results, shifts[2],
+                             count);
+                };
+                tenkStatus status;
+                if constexpr (sizeof(T) == 4)
+                    status = call(tenkLUBackSubst_mava_32f_3x3_L);
+                else
+                    status = call(tenkLUBackSubst_mava_64f_3x3_L);
+                const std::size_t solved = which == 0 && null < count ? 0 : null;
+                EXPECT_EQ(status, null < count ? tenkNullPointerError : tenkOk) << which << " " << null;
+                for (std::size_t k = 0; k < count; ++k)
+                    for (std::size_t i = 0; i < 3; ++i) {
+                        const std::size_t e = 3 * (which < 2 && backwards ? count - 1 - k : k) + i;
+                        EXPECT_EQ(x[3 * k + i], k < solved ? static_cast<T>(e + 1) : T{0})
+                            << which << " " << backwards << " " << null << " " << k;
+                    }
+            }
+    munmap(memory, 4 * page);
+}
+
 TYPED_TEST(LUBackSubst, TheOneFactorIsReadAgainAfterAResultHasChangedIt)
 {
     // The result of object 0 is row 0 of the identity: y = (2, 3, 0) and x = ((2 - (3 x 3 + 0)) / 2, 3, 0)
