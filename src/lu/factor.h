@@ -60,7 +60,7 @@ TENK_INLINE bool rowsInOrder(Address rowIndex)
         difference |= load<Mask<float>>(rowIndex + e * sizeof(std::uint32_t)) ^
                       Mask<float>{row(e), row(e + 1), row(e + 2), row(e + 3)};
     });
-    return !any(difference != Mask<float>{});
+    return all(difference == Mask<float>{});
 }
 
 } // namespace tenk

@@ -215,10 +215,8 @@ struct LUSolveGroups
     {
         constexpr std::size_t most = 256; // rowIndex and lists should still be near when they are read again
         const std::size_t end = count - k < most ? count : k + most;
-        if (!areThere(k) || !haveRows<rows>(k))
-            return k;
         if constexpr (Destination<m>::list)
-            return endOfReadableLists<rows>(k, written, end);
+            return areThere(k) && haveRows<rows>(k) ? endOfReadableLists<rows>(k, written, end) : k;
         else
             return apart
                        ? passing(k, end, [&](std::size_t first) TENK_LAMBDA { return haveRows<rows>(first); })
