@@ -50,7 +50,7 @@ TENK_INLINE void luSolve(const Vector<T> (&factor)[factors][n][n], Vector<T> (&x
     });
 }
 
-// How the rows of the factors lie.
+// How the rows of the factors lie. Where they have no gaps, no list has a shift either.
 enum class Rows
 {
     plain,   // in the order of the positions, without gaps
@@ -133,17 +133,27 @@ struct LUSolveGroups
         }
     }
 
+    // The starts of as many objects as a vector has lanes.
+    template <Rows rows, typename O>
+    TENK_INLINE static Addresses<T> startsOf(const O& o, std::size_t k)
+    {
+        if constexpr (O::list && rows != Rows::any)
+            return Addresses<T>::make([&](std::size_t g) TENK_LAMBDA { return o.entry(k + g); });
+        else
+            return tenk::startsOf(o, k);
+    }
+
     // Row i of the objects from k on, and what of the right-hand sides belongs to it.
     template <Rows rows, std::size_t i>
     TENK_INLINE void load(std::size_t k, Index<i>, Systems& to) const
     {
         each<turns>([&](auto t) TENK_LAMBDA {
             const std::size_t first = k + t * group<T>;
-            const auto b = startsOf(src2, first);
+            const auto b = startsOf<rows>(src2, first);
             if constexpr ((oneFactor || rows == Rows::plain) && i == n - 1)
                 loadSideBySide<n>(b, to.rightSide[t]);
             if constexpr (!oneFactor) {
-                const auto a = startsOf(src1, first);
+                const auto a = startsOf<rows>(src1, first);
                 Addresses<T> row;
                 if constexpr (rows == Rows::plain) {
                     row = behind<T>(a, i * n * sizeof(T));
@@ -167,7 +177,7 @@ struct LUSolveGroups
     }
 
     // Solves and stores the objects from k on.
-    template <typename F>
+    template <Rows rows, typename F>
     TENK_INLINE void solve(std::size_t k, const Systems& systems, F meanwhile) const
     {
         Vector<T> x[turns][n];
@@ -178,7 +188,8 @@ struct LUSolveGroups
             luSolve<T>(factor, x, meanwhile);
         else
             luSolve<T>(systems.factor, x, meanwhile);
-        each<turns>([&](auto t) TENK_LAMBDA { storeSideBySide<n>(startsOf(dst, k + t * group<T>), x[t]); });
+        each<turns>([&](auto t)
+                        TENK_LAMBDA { storeSideBySide<n>(startsOf<rows>(dst, k + t * group<T>), x[t]); });
     }
 
     // Whether nothing tells that the group from object k on is read before any of it is written.
@@ -202,7 +213,7 @@ struct LUSolveGroups
         do {
             Systems systems;
             load<Rows::any>(k, systems);
-            solve(k, systems, [](auto) TENK_LAMBDA {});
+            solve<Rows::any>(k, systems, [](auto) TENK_LAMBDA {});
             k += objects;
         } while (mayReadFirst(k));
         return k;
@@ -258,17 +269,18 @@ struct LUSolveGroups
             !besidesAll(src2, rightSides, ofRightSides))
             return k;
 
-        const auto entries = [&](const auto& o, std::size_t first) TENK_LAMBDA {
-            return Entries<objects>::load(o.p + first * sizeof(Address));
-        };
+        using Group = Entries<objects>;
+        const auto entries = [&](const auto& o, std::size_t first)
+                                 TENK_LAMBDA { return Group::load(o.p + first * sizeof(Address)); };
         constexpr Address nearby = 1 << 22; // that of all does not come round
         const auto isNotBehind = [&](auto entry, auto last) TENK_LAMBDA {
             return areNotBehind(entry, last, results.length, nearby);
         };
+        const Group inFrontOfAll = entries(dst, written).inFront(results.length);
         const std::size_t readable = passing(k, end, [&](std::size_t first) TENK_LAMBDA {
-            const auto those = entries(dst, first);
-            auto answers = those.test(isNotBehind, first == written ? those.inFront(results.length)
-                                                                    : entries(dst, first - 1));
+            const Address inFront = first == written ? reinterpret_cast<Address>(&inFrontOfAll)
+                                                     : dst.p + (first - 1) * sizeof(Address);
+            AddressVector answers = entries(dst, first).test(isNotBehind, Group::load(inFront));
             const auto areBeside = [&](const auto& o, const Range& range) TENK_LAMBDA {
                 if constexpr (std::remove_cvref_t<decltype(o)>::list)
                     answers |= entries(o, first).test([&](auto entry)
@@ -286,8 +298,8 @@ struct LUSolveGroups
     template <Rows rows>
     TENK_INLINE std::size_t readingAhead(std::size_t k)
     {
-        const bool hasStep = rows == Rows::any || src1.stride1 == n * sizeof(T);
-        std::size_t end = hasStep && shortSteps() ? endOfReadable<rows>(k, k) : k;
+        const bool tight = src1.stride1 == n * sizeof(T) && (src1.shift | src2.shift | dst.shift) == 0;
+        std::size_t end = (rows == Rows::any || tight) && shortSteps() ? endOfReadable<rows>(k, k) : k;
         if (end == k)
             return k;
         loadOneFactor();
@@ -301,9 +313,9 @@ struct LUSolveGroups
                 break;
             if constexpr (fewRegisters)
                 keepInMemory(systems);
-            solve(k, systems, [&](auto i) TENK_LAMBDA { load<rows>(next, i, systems); });
+            solve<rows>(k, systems, [&](auto i) TENK_LAMBDA { load<rows>(next, i, systems); });
         }
-        solve(k, systems, [](auto) TENK_LAMBDA {});
+        solve<rows>(k, systems, [](auto) TENK_LAMBDA {});
         return end;
     }
 };
