@@ -167,22 +167,6 @@ struct Side
     }
 };
 
-// The starts of as many objects as a vector has lanes, from object k on. Where they are a step apart two of
-// them are enough; the compiler would keep them all, in registers that it has not.
-template <typename O>
-TENK_INLINE Addresses<typename O::Value> startsOf(const O& o, std::size_t k)
-{
-    using Starts = Addresses<typename O::Value>;
-    if constexpr (O::list) {
-        return Starts::make([&](std::size_t g) TENK_LAMBDA { return o.object(k + g, 0).start; });
-    } else {
-        const Address even = inRegister(o.object(k, 0).start), odd = inRegister(even + times(1, o.stride0));
-        return Starts::make([&](std::size_t g) TENK_LAMBDA {
-            return (g % 2 == 0 ? even : odd) + times(g - g % 2, o.stride0);
-        });
-    }
-}
-
 // As many matrices of a group as a vector has lanes, from object `first` on: a[i][j] holds element (i, j) of
 // each. Without a gap between its rows a matrix is one long row.
 template <typename O, unsigned n, unsigned objects>

@@ -12,12 +12,24 @@ consteval bool luSolvesSideBySide(Member m)
     return m.batch() && !m.general() && isDense(m.layout);
 }
 
-// Groups that take turns: in a solution almost every operation waits for the one before. Four of them want
-// one factor for all, and a small one: they have to find registers.
-consteval unsigned luSolveTurns(Member m)
+// How the rows of the factors lie. Where they have no gaps, no list has a shift either.
+enum class Rows
 {
-    const bool oneFactor = !m.operand[0].array;
-    return m.type == Type::f32 && m.size <= 4 && oneFactor ? 4 : 2;
+    plain,   // in the order of the positions, without gaps
+    gapless, // in any order, without gaps
+    any
+};
+template <Rows rows>
+struct RowsTag
+{
+};
+
+// Groups that take turns: in a solution almost every operation waits for the one before. Four of them want
+// small objects that are quickly loaded: others run out of registers.
+consteval unsigned luSolveTurns(Member m, Rows rows)
+{
+    const bool oneFactor = !m.operand[0].array, plain = rows == Rows::plain && !isList(m.layout);
+    return m.type == Type::f32 && m.size <= 4 && (oneFactor || plain) ? 4 : 2;
 }
 
 // Calls meanwhile(i) for each position i once nothing of its row is needed any more: for work that does not
@@ -49,14 +61,6 @@ TENK_INLINE void luSolve(const Vector<T> (&factor)[factors][n][n], Vector<T> (&x
         divide(index<i>);
     });
 }
-
-// How the rows of the factors lie. Where they have no gaps, no list has a shift either.
-enum class Rows
-{
-    plain,   // in the order of the positions, without gaps
-    gapless, // in any order, without gaps
-    any
-};
 
 // The batch so many groups at a time.
 template <Member m, unsigned turns>
@@ -133,14 +137,21 @@ struct LUSolveGroups
         }
     }
 
-    // The starts of as many objects as a vector has lanes.
+    // The starts of as many objects as a vector has lanes. Where they are a step apart, one or two of them
+    // are enough; the compiler would keep them all, in registers that it has not.
     template <Rows rows, typename O>
     TENK_INLINE static Addresses<T> startsOf(const O& o, std::size_t k)
     {
-        if constexpr (O::list && rows != Rows::any)
-            return Addresses<T>::make([&](std::size_t g) TENK_LAMBDA { return o.entry(k + g); });
-        else
-            return tenk::startsOf(o, k);
+        const Address first = inRegister(o.list ? 0 : o.object(k, 0).start);
+        const Address second = inRegister(first + times(1, o.stride0));
+        return Addresses<T>::make([&](std::size_t g) TENK_LAMBDA {
+            if constexpr (O::list)
+                return rows == Rows::any ? o.object(k + g, 0).start : o.entry(k + g);
+            else if constexpr (rows == Rows::plain || oneFactor)
+                return first + times(g, o.stride0);
+            else
+                return (g % 2 == 0 ? first : second) + times(g - g % 2, o.stride0);
+        });
     }
 
     // Row i of the objects from k on, and what of the right-hand sides belongs to it.
@@ -325,13 +336,16 @@ template <Member m>
 TENK_INLINE std::size_t luSolveInTurns(const Source<m, 0>& src1, Address rowIndex, const Source<m, 1>& src2,
                                        const Destination<m>& dst, std::size_t count)
 {
-    LUSolveGroups<m, luSolveTurns(m)> inTurns(src1, rowIndex, src2, dst, count);
     std::size_t k = 0;
+    const auto readAhead = [&]<Rows rows>(RowsTag<rows>) TENK_LAMBDA {
+        LUSolveGroups<m, luSolveTurns(m, rows)> groups(src1, rowIndex, src2, dst, count);
+        k = groups.template readingAhead<rows>(k);
+    };
     if constexpr (m.operand[0].array) {
-        k = inTurns.template readingAhead<Rows::plain>(k);
-        k = inTurns.template readingAhead<Rows::gapless>(k);
+        readAhead(RowsTag<Rows::plain>{});
+        readAhead(RowsTag<Rows::gapless>{});
     }
-    k = inTurns.template readingAhead<Rows::any>(k);
+    readAhead(RowsTag<Rows::any>{});
     if (k == count)
         return k;
     LUSolveGroups<m, 1> alone(src1, rowIndex, src2, dst, count);
